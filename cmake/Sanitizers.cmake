@@ -1,0 +1,6 @@
+# -DVORBEL_SANITIZE=address,undefined (or thread) instruments the whole tree.
+set(VORBEL_SANITIZE "" CACHE STRING "Sanitizers to build with, comma separated")
+if(VORBEL_SANITIZE)
+    add_compile_options(-fsanitize=${VORBEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${VORBEL_SANITIZE})
+endif()
