@@ -1,0 +1,141 @@
+// The keys of every text of the program, in the order in which each language's file lists them.
+//
+// A new key: list it here and give it a text in every file of texts/. A key that ends in ".format" is a
+// template; the code fills its placeholders "%@" from left to right, so every language has them in the same
+// number and order.
+//
+// A new language: a case in AppLanguage.h with its row in AppLanguage.cpp, a file texts/CODE.h in the form of
+// texts/en.h, and in L10n.cpp one include and one row. Texts that a language lacks are shown in English. A
+// key that is unknown, given twice or out of order, an empty text, or a language listed twice does not
+// compile.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace vorbel::L10n {
+
+inline constexpr std::array<std::string_view, 113> keys{
+    "team.red",
+    "team.blue",
+    "team.red.caps",
+    "team.blue.caps",
+    "label.score",
+    "label.ballsLeft",
+    "label.end",
+    "menu.matchResult",
+    "menu.nextRound",
+    "menu.mainMenu",
+    "label.end.format",
+    "label.playingAs.format",
+    "label.rampHint",
+    "label.aiDifficulty",
+    "label.throwPower",
+    "label.aiToggle",
+
+    "difficulty.easy",
+    "difficulty.medium",
+    "difficulty.hard",
+    "difficulty.ultra",
+    "menu.language",
+    "menu.gameMenu",
+    "menu.toggleFullScreen",
+    "menu.rank.format",
+    "menu.gamesNext.format",
+    "menu.gamesMax.format",
+    "menu.startGame",
+    "menu.tournament",
+    "menu.rules",
+    "menu.about",
+    "menu.exit",
+    "menu.chooseCountry",
+    "menu.play",
+    "menu.sportClass",
+    "menu.back",
+    "menu.isRealAthlete",
+    "menu.diary",
+
+    "diary.totalXP.format",
+    "diary.empty",
+    "diary.win",
+    "diary.loss",
+    "diary.draw",
+    "diary.entry.format",
+
+    "bc.desc.bc1",
+    "bc.desc.bc2",
+    "bc.desc.bc3",
+    "bc.desc.bc4",
+
+    "rank.novice",
+    "rank.thirdYouth",
+    "rank.secondYouth",
+    "rank.firstYouth",
+    "rank.thirdRank",
+    "rank.secondRank",
+    "rank.firstRank",
+    "rank.cms",
+    "rank.ms",
+
+    "msg.initial",
+    "msg.aimingHint",
+    "msg.lockPower",
+    "msg.ballInPlay",
+    "msg.turn.format",
+    "msg.endWon.format",
+    "msg.endDraw",
+    "msg.matchDraw",
+    "msg.teamWinMatch.format",
+    "msg.matchOver.format",
+    "msg.nextEndPrompt.format",
+    "msg.newEndStart.format",
+    "msg.jackOut.format",
+    "msg.tieBreak.format",
+    "msg.aiAiming.format",
+    "msg.tournamentRound.format",
+    "msg.tournamentEliminated.format",
+    "msg.tournamentChampion.format",
+
+    "country.france",
+    "country.germany",
+    "country.thailand",
+    "country.brazil",
+    "country.japan",
+    "country.southKorea",
+    "country.greatBritain",
+    "country.portugal",
+    "country.china",
+    "country.belgium",
+    "country.croatia",
+    "country.czechRepublic",
+    "country.greece",
+    "country.hungary",
+    "country.netherlands",
+    "country.poland",
+    "country.slovakia",
+    "country.spain",
+    "country.ukraine",
+    "country.hongKong",
+    "country.indonesia",
+    "country.malaysia",
+    "country.singapore",
+    "country.israel",
+    "country.argentina",
+    "country.bermuda",
+    "country.canada",
+    "country.colombia",
+    "country.ecuador",
+    "country.elSalvador",
+    "country.mexico",
+    "country.peru",
+    "country.egypt",
+    "country.southAfrica",
+    "country.tunisia",
+    "country.australia",
+    "country.russia",
+
+    "rules.text",
+    "about.text",
+};
+
+} // namespace vorbel::L10n

@@ -1,0 +1,37 @@
+#include "l10n/BocciaClass.h"
+
+#include "l10n/L10n.h"
+
+#include <gtest/gtest.h>
+
+namespace vorbel {
+namespace {
+
+TEST(BocciaClass, casesAreInTheirOrder) {
+    ASSERT_EQ(allBocciaClasses.size(), 4u);
+    EXPECT_EQ(allBocciaClasses.front(), BocciaClass::bc1);
+    EXPECT_EQ(allBocciaClasses.back(), BocciaClass::bc4);
+}
+
+TEST(BocciaClass, isConstructedFromItsRawValue) {
+    EXPECT_EQ(bocciaClassFromRawValue("BC3"), BocciaClass::bc3);
+    for (const BocciaClass sportClass : allBocciaClasses) {
+        EXPECT_EQ(bocciaClassFromRawValue(rawValue(sportClass)), sportClass);
+    }
+}
+
+TEST(BocciaClass, rawValuesAreUpperCase) {
+    for (const char* name : {"bc1", "Bc1", "BC0", "BC5", "BC", "", "BC1 "}) {
+        EXPECT_FALSE(bocciaClassFromRawValue(name)) << name;
+    }
+}
+
+TEST(BocciaClass, descriptionKeyNamesTheCase) {
+    EXPECT_EQ(descriptionKey(BocciaClass::bc1), "bc.desc.bc1");
+    EXPECT_EQ(descriptionKey(BocciaClass::bc4), "bc.desc.bc4");
+    EXPECT_EQ(L10n::t(descriptionKey(BocciaClass::bc2), AppLanguage::en),
+              "Cerebral palsy, higher functional level than BC1. No assistant allowed.");
+}
+
+} // namespace
+} // namespace vorbel

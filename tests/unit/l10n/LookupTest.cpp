@@ -1,0 +1,53 @@
+#include "l10n/L10n.h"
+
+#include "l10n/Table.h"
+
+#include <gtest/gtest.h>
+
+namespace vorbel::L10n {
+namespace {
+
+TEST(Lookup, thereAre113KeysAnd18AreMessagesOfTheMatch) {
+    EXPECT_EQ(keys.size(), 113u);
+    EXPECT_EQ(std::ranges::count_if(keys, [](std::string_view key) { return key.starts_with("msg."); }), 18);
+}
+
+TEST(Lookup, givesTheTextOfTheLanguage) {
+    EXPECT_EQ(t("menu.play", AppLanguage::en), "Play");
+    EXPECT_EQ(t("menu.play", AppLanguage::ru), "Играть");
+}
+
+TEST(Lookup, givesTheGermanText) {
+    EXPECT_EQ(t("menu.play", AppLanguage::de), "Spielen");
+}
+
+TEST(Lookup, aTextThatTheLanguageLacksIsShownInEnglish) {
+    EXPECT_EQ(t("msg.initial", AppLanguage::ru), "Press [SPACE] to start aiming");
+}
+
+TEST(Lookup, anUnknownKeyShowsAsItself) {
+    for (const AppLanguage language : allLanguages) {
+        for (const char* key :
+             {"menu.unknown", "", "menu", "menu.pla", "menu.play ", "MENU.PLAY", "zzz", "Red"}) {
+            EXPECT_EQ(t(key, language), key);
+        }
+    }
+}
+
+TEST(Lookup, everyKeyHasATextInEveryLanguage) {
+    for (const AppLanguage language : allLanguages) {
+        for (const std::string_view key : keys) {
+            EXPECT_FALSE(t(key, language).empty()) << key;
+            EXPECT_NE(t(key, language), key);
+        }
+    }
+}
+
+TEST(Lookup, titleOfTheProgramIsNotTranslated) {
+    for (const AppLanguage language : allLanguages) {
+        EXPECT_TRUE(t("about.text", language).starts_with("VORBEL\n\n")) << rawValue(language);
+    }
+}
+
+} // namespace
+} // namespace vorbel::L10n

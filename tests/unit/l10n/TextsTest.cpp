@@ -1,0 +1,130 @@
+// What every language's texts have in common with the English ones, and what is theirs alone.
+#include "tests/unit/l10n/EachLanguage.h"
+#include "tests/unit/l10n/SameWords.h"
+#include "tests/unit/l10n/Utf8.h"
+
+#include <set>
+
+namespace vorbel::test {
+namespace {
+
+using Texts = EachLanguage;
+
+// The names of keys in square brackets other than the arrows: the space bar's.
+std::set<std::string_view> keyNames(std::string_view text) {
+    std::set<std::string_view> names;
+    for (std::string_view part : split(text, '[')) {
+        const std::size_t end = part.find(']');
+        if (end != std::string_view::npos && codePoints(part.substr(0, end)).size() > 1) {
+            names.insert(part.substr(0, end));
+        }
+    }
+    return names;
+}
+
+// What tells the kinds of lines apart: blank, bullet, the number of a rule, other.
+char32_t kindOfLine(std::string_view line) {
+    if (line.empty()) {
+        return U' ';
+    }
+    const char32_t first = codePoints(line).front();
+    return first == U'·' || (first >= U'0' && first <= U'9') ? first : U'x';
+}
+
+TEST_P(Texts, areComplete) {
+    for (const std::string_view key : L10n::keys) {
+        const bool isComposedByTheGame = GetParam() == AppLanguage::ru && key.starts_with("msg.");
+        EXPECT_EQ(texts.contains(key), !isComposedByTheGame) << key;
+    }
+    EXPECT_EQ(texts.size(), GetParam() == AppLanguage::ru ? 95u : 113u);
+}
+
+TEST_P(Texts, haveThePlaceholdersOfTheEnglishOnes) {
+    for (const auto& [key, text] : texts) {
+        EXPECT_EQ(count(text, "%@"), count(english.at(key), "%@")) << key;
+        EXPECT_EQ(count(text, "%"), count(text, "%@")) << key;
+        EXPECT_EQ(key.ends_with(".format"), count(text, "%@") > 0) << key;
+    }
+}
+
+TEST_P(Texts, endCounterSaysOf4) {
+    EXPECT_EQ(count(texts.at("label.end.format"), "4"), 1u);
+}
+
+TEST_P(Texts, haveTheLinesOfTheEnglishOnes) {
+    for (const auto& [key, text] : texts) {
+        const auto lines = split(text, '\n');
+        const auto englishLines = split(english.at(key), '\n');
+        ASSERT_EQ(lines.size(), englishLines.size()) << key;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            // A text of one line may begin as the language likes: with a digit or a word.
+            EXPECT_TRUE(lines.size() == 1 || kindOfLine(lines[i]) == kindOfLine(englishLines[i]))
+                << key << ", line " << i + 1;
+        }
+    }
+}
+
+TEST_P(Texts, haveNoLeadingTrailingOrDoubledBlanks) {
+    for (const auto& [key, text] : texts) {
+        for (const std::string_view line : split(text, '\n')) {
+            std::u32string points = codePoints(line);
+            for (char32_t& point : points) {
+                if (point == U'\u00A0' || point == U'\u202F' || point == U'\u3000') {
+                    point = U' ';
+                }
+            }
+            EXPECT_FALSE(points.starts_with(U' ') || points.ends_with(U' ')) << key << ": " << text;
+            EXPECT_EQ(points.find(U"  "), std::u32string::npos) << key << ": " << text;
+        }
+    }
+}
+
+TEST_P(Texts, nameTheSpaceBarEverywhereTheSame) {
+    std::set<std::string_view> names;
+    for (const auto& [key, text] : texts) {
+        EXPECT_EQ(count(text, "["), count(english.at(key), "[")) << key;
+        EXPECT_EQ(count(text, "]"), count(english.at(key), "]")) << key;
+        EXPECT_EQ(keyNames(text).size(), keyNames(english.at(key)).size()) << key;
+        for (const char* arrow : {"[←]", "[→]", "[↑]", "[↓]"}) {
+            EXPECT_EQ(count(text, arrow), count(english.at(key), arrow)) << key;
+        }
+        names.merge(keyNames(text));
+    }
+    EXPECT_EQ(names.size(), 1u) << testing::PrintToString(names);
+}
+
+TEST_P(Texts, areNotLeftInEnglish) {
+    if (GetParam() == AppLanguage::en) {
+        return;
+    }
+    const auto listed = sameAsEnglish.find(GetParam());
+    const auto isListed = [&](std::string_view key) {
+        return listed != sameAsEnglish.end() && listed->second.contains(key);
+    };
+    for (const auto& [key, text] : texts) {
+        if (key == "diary.entry.format") { // placeholders and "XP" alone
+            continue;
+        }
+        EXPECT_EQ(text == english.at(key), isListed(key)) << key << ": " << text;
+    }
+}
+
+TEST_P(Texts, tellChoicesSideBySideApart) {
+    for (const char* family : {"team.", "difficulty.", "rank.", "country.", "bc.desc.", "diary."}) {
+        std::map<std::string_view, std::string_view> keyOf;
+        for (const auto& [key, text] : texts) {
+            if (key.starts_with(family)) {
+                const bool isCapsOfSameTeam =
+                    key.ends_with(".caps"); // scripts without capitals repeat the name
+                const auto [same, isNew] = keyOf.emplace(text, key);
+                EXPECT_TRUE(isNew || isCapsOfSameTeam) << key << " and " << same->second << ": " << text;
+            }
+        }
+    }
+    EXPECT_NE(texts.at("team.red.caps"), texts.at("team.blue.caps"));
+}
+
+INSTANTIATE_TEST_SUITE_P(L10n, Texts, testing::ValuesIn(allLanguages), nameOf);
+
+} // namespace
+} // namespace vorbel::test
