@@ -1,0 +1,28 @@
+#include "platform/audio/Audio.h"
+
+namespace vorbel {
+
+namespace {
+
+class SilentSound final : public SystemSound {
+    void play() override {}
+    void stop() override {}
+};
+
+class SilentPlayer final : public AudioPlayer {
+    void setLoopCount(int /*count*/) override {}
+    void setVolume(float /*volume*/) override {}
+    void play() override {}
+};
+
+} // namespace
+
+std::unique_ptr<SystemSound> SilentAudio::systemSound(std::string_view /*name*/) {
+    return std::make_unique<SilentSound>();
+}
+
+std::unique_ptr<AudioPlayer> SilentAudio::player(const std::filesystem::path& /*file*/) {
+    return std::make_unique<SilentPlayer>();
+}
+
+} // namespace vorbel

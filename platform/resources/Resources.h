@@ -1,0 +1,28 @@
+// Where the program's pictures and sounds are found.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace vorbel {
+
+class Resources {
+public:
+    // Searches the folders in this order. An empty list finds nothing.
+    explicit Resources(std::vector<std::filesystem::path> folders = {});
+
+    // The usual places: the folder in the environment variable VORBEL_RESOURCES (then no other), else
+    // `resources/` beside the program's build and `share/vorbel` of its install prefix.
+    [[nodiscard]] static Resources forProgram(const std::filesystem::path& executable);
+
+    // The first readable file `name.extension`; none when it is missing everywhere.
+    [[nodiscard]] std::optional<std::filesystem::path> find(std::string_view name,
+                                                            std::string_view extension) const;
+
+private:
+    std::vector<std::filesystem::path> folders_;
+};
+
+} // namespace vorbel

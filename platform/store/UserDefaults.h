@@ -1,0 +1,28 @@
+// The player's settings and progress, kept between runs.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace vorbel {
+
+// A value of another type than asked for reads as absent. Writing goes through to the storage at once.
+class UserDefaults {
+public:
+    virtual ~UserDefaults() = default;
+
+    [[nodiscard]] virtual std::optional<int> integer(std::string_view key) const = 0;
+    [[nodiscard]] virtual std::optional<bool> boolean(std::string_view key) const = 0;
+    [[nodiscard]] virtual std::optional<std::string> text(std::string_view key) const = 0;
+    [[nodiscard]] virtual std::optional<std::string> bytes(std::string_view key) const = 0;
+
+    virtual void setInteger(std::string_view key, int value) = 0;
+    virtual void setBoolean(std::string_view key, bool value) = 0;
+    virtual void setText(std::string_view key, const std::string& value) = 0;
+    virtual void setBytes(std::string_view key, const std::string& value) = 0;
+};
+
+} // namespace vorbel
