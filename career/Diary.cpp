@@ -1,0 +1,81 @@
+#include "career/Diary.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
+namespace vorbel {
+
+namespace {
+
+using nlohmann::ordered_json;
+using Seconds = std::chrono::duration<double>;
+
+// 2001-01-01 00:00:00 UTC, in seconds since the system clock's epoch.
+constexpr Seconds referenceDate{978307200.0};
+
+constexpr std::size_t uuidDigits = 32;
+
+double toNumber(std::chrono::system_clock::time_point date) {
+    return (std::chrono::duration_cast<Seconds>(date.time_since_epoch()) - referenceDate).count();
+}
+
+std::chrono::system_clock::time_point fromNumber(double secondsSinceReference) {
+    const Seconds sinceEpoch = referenceDate + Seconds(secondsSinceReference);
+    return std::chrono::system_clock::time_point(
+        std::chrono::duration_cast<std::chrono::system_clock::duration>(sinceEpoch));
+}
+
+bool isEntry(const ordered_json& value) {
+    const auto has = [&value](const char* member, bool (ordered_json::*isOfType)() const noexcept) {
+        const auto found = value.find(member);
+        return found != value.end() && ((*found).*isOfType)();
+    };
+    return value.is_object() && has("id", &ordered_json::is_string) &&
+           has("date", &ordered_json::is_number) && has("resultKey", &ordered_json::is_string) &&
+           has("xpGained", &ordered_json::is_number_integer);
+}
+
+} // namespace
+
+std::string randomUuid(RandomSource& random) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    constexpr std::size_t variants = 4; // the variant digit is one of 8, 9, A, B
+    std::string uuid;
+    for (std::size_t i = 0; i < uuidDigits; ++i) {
+        if (i == 8 || i == 12 || i == 16 || i == 20) {
+            uuid += '-';
+        }
+        const std::size_t digit = i == 12   ? 4
+                                  : i == 16 ? 8 + random.index(variants)
+                                            : random.index(digits.size());
+        uuid += digits[digit];
+    }
+    return uuid;
+}
+
+std::vector<DiaryEntry> decodeDiary(std::string_view json) {
+    const ordered_json document = ordered_json::parse(json, nullptr, false);
+    if (!document.is_array() || !std::all_of(document.begin(), document.end(), isEntry)) {
+        return {};
+    }
+    std::vector<DiaryEntry> entries;
+    entries.reserve(document.size());
+    for (const ordered_json& entry : document) {
+        entries.push_back({entry["id"], fromNumber(entry["date"]), entry["resultKey"], entry["xpGained"]});
+    }
+    return entries;
+}
+
+std::string encodeDiary(const std::vector<DiaryEntry>& entries) {
+    ordered_json document = ordered_json::array();
+    for (const DiaryEntry& entry : entries) {
+        document.push_back({{"id", entry.id},
+                            {"date", toNumber(entry.date)},
+                            {"resultKey", entry.resultKey},
+                            {"xpGained", entry.xpGained}});
+    }
+    return document.dump();
+}
+
+} // namespace vorbel

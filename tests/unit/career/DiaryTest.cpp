@@ -1,0 +1,69 @@
+#include "career/Diary.h"
+
+#include <gtest/gtest.h>
+
+#include <regex>
+#include <set>
+
+namespace vorbel {
+
+namespace {
+
+const std::chrono::system_clock::time_point startOf2001{std::chrono::seconds(978307200)};
+
+DiaryEntry entry() {
+    return {"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F", startOf2001 + std::chrono::milliseconds(1500),
+            "diary.win", 1};
+}
+
+} // namespace
+
+TEST(DiaryTest, IsStoredAsAJsonArrayWithExactlyFourMembersAnEntry) {
+    EXPECT_EQ(
+        encodeDiary({entry()}),
+        R"([{"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":1.5,"resultKey":"diary.win","xpGained":1}])");
+    EXPECT_EQ(encodeDiary({}), "[]");
+}
+
+TEST(DiaryTest, ReadsBackWhatItWrote) {
+    const std::vector<DiaryEntry> entries{entry(), entry()};
+    EXPECT_EQ(decodeDiary(encodeDiary(entries)), entries);
+}
+
+TEST(DiaryTest, IgnoresMembersItDoesNotKnow) {
+    EXPECT_EQ(
+        decodeDiary(R"([{"id":"A","date":0,"resultKey":"diary.loss","xpGained":0,"mood":"fine"}])").size(),
+        1U);
+}
+
+TEST(DiaryTest, AMissingMemberOrOneOfAWrongTypeSpoilsTheWholeDiary) {
+    const std::string good = R"({"id":"A","date":0,"resultKey":"diary.loss","xpGained":0})";
+    for (const char* bad : {R"({"date":0,"resultKey":"diary.loss","xpGained":0})",
+                            R"({"id":"A","resultKey":"diary.loss","xpGained":0})",
+                            R"({"id":"A","date":"today","resultKey":"diary.loss","xpGained":0})",
+                            R"({"id":"A","date":0,"resultKey":7,"xpGained":0})",
+                            R"({"id":"A","date":0,"resultKey":"x","xpGained":0.5})",
+                            R"({"id":"A","date":0,"resultKey":"x"})", "7", "null", "[]"}) {
+        EXPECT_TRUE(decodeDiary("[" + good + "," + bad + "]").empty()) << bad;
+    }
+}
+
+TEST(DiaryTest, WhatIsNoJsonArrayIsAnEmptyDiary) {
+    for (const char* blob : {"", "{", "{}", "[", "null", "\xff\xfe", "[{]"}) {
+        EXPECT_TRUE(decodeDiary(blob).empty()) << blob;
+    }
+}
+
+TEST(DiaryTest, EachEntryGetsAFreshUpperCaseUuid) {
+    SeededRandom random(1);
+    const std::regex form("[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}");
+    std::set<std::string> seen;
+    for (int i = 0; i < 100; ++i) {
+        const std::string uuid = randomUuid(random);
+        EXPECT_TRUE(std::regex_match(uuid, form)) << uuid;
+        seen.insert(uuid);
+    }
+    EXPECT_EQ(seen.size(), 100U);
+}
+
+} // namespace vorbel

@@ -1,0 +1,36 @@
+#include "career/Progress.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+namespace vorbel {
+
+TEST(Progress, TheFirstRankTakesThreeMatches) {
+    EXPECT_EQ(rankKey(2), "rank.novice");
+    EXPECT_EQ(gamesToNextRank(2), 1);
+    EXPECT_EQ(rankKey(3), "rank.thirdYouth");
+    EXPECT_EQ(gamesToNextRank(3), 3);
+}
+
+TEST(Progress, TheLastRankIsReachedWithSixtyMatches) {
+    EXPECT_EQ(rankKey(59), "rank.cms");
+    EXPECT_EQ(gamesToNextRank(59), 1);
+    EXPECT_EQ(rankKey(60), "rank.ms");
+    EXPECT_EQ(gamesToNextRank(60), std::nullopt);
+    EXPECT_EQ(rankKey(INT_MAX), "rank.ms");
+}
+
+TEST(Progress, EveryThresholdOfTheLadderChangesTheRank) {
+    for (const int threshold : {3, 6, 10, 15, 20, 30, 45, 60}) {
+        EXPECT_NE(rankKey(threshold - 1), rankKey(threshold));
+        EXPECT_EQ(gamesToNextRank(threshold - 1), 1);
+    }
+}
+
+TEST(Progress, ADamagedCountReadsAsTheLowestRank) {
+    EXPECT_EQ(rankKey(-5), "rank.novice");
+    EXPECT_EQ(gamesToNextRank(-5), 5);
+}
+
+} // namespace vorbel
