@@ -1,0 +1,37 @@
+// How fast matches are played without a window.
+#include "tools/sim/MatchPlayer.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+using namespace vorbel;
+using namespace vorbel::sim;
+
+// items_per_second is matches a second on one core.
+void playMatch(benchmark::State& state) {
+    std::uint64_t seed = 1;
+    double simulated = 0;
+    for (auto _ : state) {
+        MatchPlayer match({.seed = seed++, .red = AIDifficulty::hard, .blue = AIDifficulty::medium});
+        if (!match.play()) {
+            state.SkipWithError("a match did not end");
+            break;
+        }
+        simulated += match.simulatedSeconds();
+    }
+    state.SetItemsProcessed(state.iterations());
+    // How many times faster than real time.
+    state.counters["speed-up"] = benchmark::Counter(simulated, benchmark::Counter::kIsRate);
+}
+BENCHMARK(playMatch)->Unit(benchmark::kMillisecond);
+
+void buildScene(benchmark::State& state) {
+    SeededRandom random(1);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(GameLogic::create3DScene(random));
+    }
+}
+BENCHMARK(buildScene)->Unit(benchmark::kMicrosecond);
+
+} // namespace

@@ -1,0 +1,82 @@
+#include "tools/sim/Ladder.h"
+
+#include "tools/sim/MatchPlayer.h"
+#include "tools/sim/Trace.h"
+
+#include <atomic>
+#include <iomanip>
+#include <ostream>
+#include <thread>
+#include <vector>
+
+namespace vorbel::sim {
+
+namespace {
+
+constexpr int levels = static_cast<int>(allDifficulties.size());
+
+constexpr std::size_t place(AIDifficulty level) {
+    return static_cast<std::size_t>(level);
+}
+
+} // namespace
+
+WinTable playLadder(const LadderSettings& settings) {
+    const int perCell = settings.matchesPerPair / 2;
+    const int total = levels * levels * perCell;
+    std::array<std::atomic<int>, allDifficulties.size() * allDifficulties.size()> wins{};
+    std::atomic<int> next = 0;
+    const auto playMatches = [&] {
+        for (int i = next++; i < total; i = next++) {
+            const auto cell = static_cast<std::size_t>(i / perCell);
+            MatchPlayer match({.seed = settings.firstSeed + static_cast<std::uint64_t>(i),
+                               .red = allDifficulties[cell / levels],
+                               .blue = allDifficulties[cell % levels]});
+            match.play();
+            wins[cell] += match.game().redScore > match.game().blueScore ? 1 : 0;
+        }
+    };
+    {
+        std::vector<std::jthread> helpers;
+        for (unsigned i = 1; i < settings.jobs; ++i) {
+            helpers.emplace_back(playMatches);
+        }
+        playMatches();
+    }
+    WinTable table{};
+    for (std::size_t cell = 0; cell < wins.size(); ++cell) {
+        table[cell / levels][cell % levels] = wins[cell];
+    }
+    return table;
+}
+
+double winRate(const WinTable& wins, int matchesPerCell, AIDifficulty level, AIDifficulty against) {
+    const int asRed = wins[place(level)][place(against)];
+    const int asBlue = matchesPerCell - wins[place(against)][place(level)];
+    return static_cast<double>(asRed + asBlue) / (2.0 * matchesPerCell);
+}
+
+void writeLadder(std::ostream& out, const WinTable& wins, int matchesPerCell) {
+    constexpr int width = 9;
+    constexpr double percent = 100;
+    out << std::fixed << std::setprecision(1) << "Matches won by red, in percent of " << matchesPerCell
+        << ":\n"
+        << std::setw(width) << "red\\blue";
+    for (const AIDifficulty blue : allDifficulties) {
+        out << std::setw(width) << levelName(blue);
+    }
+    for (const AIDifficulty red : allDifficulties) {
+        out << '\n' << std::setw(width) << levelName(red);
+        for (const AIDifficulty blue : allDifficulties) {
+            out << std::setw(width) << percent * wins[place(red)][place(blue)] / matchesPerCell;
+        }
+    }
+    out << '\n';
+    for (std::size_t i = allDifficulties.size() - 1; i > 0; --i) {
+        out << levelName(allDifficulties[i]) << " beats " << levelName(allDifficulties[i - 1]) << " in "
+            << percent * winRate(wins, matchesPerCell, allDifficulties[i], allDifficulties[i - 1]) << " % of "
+            << 2 * matchesPerCell << '\n';
+    }
+}
+
+} // namespace vorbel::sim

@@ -1,0 +1,32 @@
+// The command line of vorbel-sim.
+#pragma once
+
+#include "engine/MatchTypes.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace vorbel::sim {
+
+struct Options {
+    bool help = false;
+    bool ladder = false;
+    bool signature = false;
+    bool trace = false;
+    int matches = 1;
+    bool matchesGiven = false;
+    unsigned jobs = 1;
+    AIDifficulty red = AIDifficulty::medium;
+    AIDifficulty blue = AIDifficulty::medium;
+    std::uint64_t seed = 1;
+};
+
+// The options, or one line that says what is wrong with the arguments (the program's name not among them).
+[[nodiscard]] std::variant<Options, std::string> parseOptions(std::span<const char* const> arguments);
+
+[[nodiscard]] std::string_view helpText();
+
+} // namespace vorbel::sim
