@@ -1,0 +1,171 @@
+// Settings when things go wrong: nothing that was stored is lost, and the game goes on.
+#include "tests/unit/store/SettingsFolder.h"
+
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <new>
+#include <thread>
+
+#include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+namespace vorbel {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using SettingsFailureTest = SettingsFolder;
+
+// No file can grow beyond this, as on a full disk, while it lives.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) { // writes fail instead
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+private:
+    rlimit before_{};
+    void (*handler_)(int);
+};
+
+TEST_F(SettingsFailureTest, aDamagedFileCostsNoOtherValueAndIsSetAside) {
+    SettingsDefaults defaults(folder);
+    defaults.setInteger("boccia_gamesPlayed", 5);
+    for (const char* damaged :
+         {"", "\n", "garbage", "integer\n", "integer\n5x", "integer\n99999999999", "boolean\nyes"}) {
+        write(folder / "boccia_athleteXP", damaged);
+        EXPECT_EQ(defaults.integer("boccia_athleteXP"), std::nullopt) << damaged;
+        EXPECT_EQ(defaults.boolean("boccia_athleteXP"), std::nullopt) << damaged;
+        EXPECT_EQ(defaults.integer("boccia_gamesPlayed"), 5) << damaged;
+        defaults.setInteger("boccia_athleteXP", 1);
+        EXPECT_EQ(defaults.integer("boccia_athleteXP"), 1) << damaged;
+        EXPECT_EQ(contentOf(folder / "boccia_athleteXP.damaged"), damaged);
+    }
+}
+
+TEST_F(SettingsFailureTest, withAFolderThatCannotBeWrittenTheGameGoesOnInMemory) {
+    write(folder, "a file where the folder should be"); // permissions would not stop an administrator
+    SettingsDefaults defaults(folder / "vorbel");
+    defaults.setInteger("boccia_gamesPlayed", 1);
+    defaults.setText("boccia_language", "de");
+    EXPECT_EQ(defaults.integer("boccia_gamesPlayed"), 1);
+    EXPECT_EQ(defaults.text("boccia_language"), "de");
+    EXPECT_EQ(contentOf(folder), "a file where the folder should be");
+}
+
+TEST_F(SettingsFailureTest, whatCouldNotBeWrittenIsWrittenWithTheNextValue) {
+    write(folder, "in the way");
+    SettingsDefaults defaults(folder / "vorbel");
+    defaults.setInteger("boccia_gamesPlayed", 1);
+    fs::remove(folder);
+    defaults.setInteger("boccia_athleteXP", 1);
+    EXPECT_EQ(SettingsDefaults(folder / "vorbel").integer("boccia_gamesPlayed"), 1);
+}
+
+TEST_F(SettingsFailureTest, whatCouldNotBeWrittenIsWrittenAtTheEnd) {
+    write(folder, "in the way");
+    {
+        SettingsDefaults defaults(folder / "vorbel");
+        defaults.setInteger("boccia_gamesPlayed", 1);
+        fs::remove(folder);
+    }
+    EXPECT_EQ(SettingsDefaults(folder / "vorbel").integer("boccia_gamesPlayed"), 1);
+}
+
+TEST_F(SettingsFailureTest, onAFullDiskTheOldValueStaysAndTheNewOneIsKeptForTheSession) {
+    const std::string shortDiary(1000, 'a');
+    const std::string longDiary(100'000, 'b');
+    SettingsDefaults defaults(folder);
+    defaults.setBytes("boccia_diaryData", shortDiary);
+    {
+        const FullDisk full(4096);
+        defaults.setBytes("boccia_diaryData", longDiary);
+        EXPECT_EQ(defaults.bytes("boccia_diaryData"), longDiary);
+        EXPECT_EQ(SettingsDefaults(folder).bytes("boccia_diaryData"), shortDiary);
+    }
+    defaults.setInteger("boccia_gamesPlayed", 1);
+    EXPECT_EQ(SettingsDefaults(folder).bytes("boccia_diaryData"), longDiary) << "there is space again";
+}
+
+TEST_F(SettingsFailureTest, onACompletelyFullDiskEvenASmallOldValueStays) {
+    SettingsDefaults defaults(folder);
+    defaults.setInteger("boccia_gamesPlayed", 59);
+    const FullDisk full(0);
+    defaults.setInteger("boccia_gamesPlayed", 60);
+    EXPECT_EQ(defaults.integer("boccia_gamesPlayed"), 60);
+    EXPECT_EQ(SettingsDefaults(folder).integer("boccia_gamesPlayed"), 59);
+}
+
+// Memory that a child process shares with its parent.
+class SharedCounter {
+public:
+    SharedCounter()
+        : memory_(mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS,
+                       -1, 0)),
+          value(*new (memory_) std::atomic<int>(0)) {}
+    SharedCounter(const SharedCounter&) = delete;
+    SharedCounter& operator=(const SharedCounter&) = delete;
+    ~SharedCounter() { munmap(memory_, sizeof(std::atomic<int>)); }
+
+private:
+    void* memory_;
+
+public:
+    std::atomic<int>& value;
+};
+
+// Stores without end, each text of one letter, and tells which count it has seen stored.
+[[noreturn]] void storeUntilKilled(const fs::path& folder, std::atomic<int>& stored) {
+    SettingsDefaults defaults(folder);
+    for (int i = stored + 1;; ++i) {
+        const auto letter = static_cast<char>('a' + i % 26);
+        defaults.setText("text", std::string(static_cast<std::size_t>(i * 997 % 50'000), letter));
+        defaults.setInteger("counter", i);
+        stored = i;
+    }
+}
+
+TEST_F(SettingsFailureTest, aGameKilledAtAnyMomentLeavesWholeValuesAndLosesNone) {
+    SettingsDefaults defaults(folder);
+    defaults.setInteger("counter", 0);
+    defaults.setText("text", "");
+    defaults.setText("boccia_language", "el");
+    const SharedCounter stored;
+    for (int kill = 0; kill < 300; ++kill) {
+        const pid_t child = fork();
+        if (child == 0) {
+            storeUntilKilled(folder, stored.value);
+        }
+        std::this_thread::sleep_for(std::chrono::microseconds(2000 + 3701 * kill % 16000));
+        ::kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+
+        const auto counter = defaults.integer("counter");
+        const auto text = defaults.text("text");
+        ASSERT_TRUE(counter.has_value());
+        ASSERT_GE(*counter, stored.value) << "a stored value was lost";
+        ASSERT_TRUE(text.has_value());
+        ASSERT_TRUE(text->find_first_not_of(text->substr(0, 1)) == std::string::npos) << "half a text";
+        ASSERT_EQ(defaults.text("boccia_language"), "el");
+    }
+    EXPECT_GT(stored.value, 0) << "the children did store";
+    const auto files = std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+    RecordProperty("files_left", std::to_string(files));
+    RecordProperty("stored", std::to_string(stored.value));
+    EXPECT_LE(files, 3 + 30) << "few of the killed games leave an unfinished file behind";
+}
+
+} // namespace
+
+} // namespace vorbel
