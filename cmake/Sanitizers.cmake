@@ -3,4 +3,5 @@ set(VORBEL_SANITIZE "" CACHE STRING "Sanitizers to build with, comma separated")
 if(VORBEL_SANITIZE)
     add_compile_options(-fsanitize=${VORBEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${VORBEL_SANITIZE})
+    add_compile_options(-Wno-maybe-uninitialized) # GCC 12 sees ghosts in instrumented standard headers
 endif()

@@ -31,7 +31,7 @@ double gapWithoutContact(const btCollisionObject& a, const btCollisionObject& b)
 }
 
 bool isBallImpact(const btPersistentManifold& manifold) {
-    return ballShape(*manifold.getBody0()) && ballShape(*manifold.getBody1()) &&
+    return ballShape(*manifold.getBody0()) != nullptr && ballShape(*manifold.getBody1()) != nullptr &&
            manifold.getNumContacts() > 0 && manifold.getContactPoint(0).getDistance() > 0;
 }
 

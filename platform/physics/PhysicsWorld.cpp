@@ -42,8 +42,8 @@ private:
 void PhysicsWorld::Impl::step(double seconds) {
     takeOverChanges();
     if (bodies_.isAnyAwake()) {
-        const double count = std::max(1.0, std::ceil(seconds / longestSubStep - 1e-9));
-        for (double done = 0; done < count; ++done) {
+        const int count = std::max(1, static_cast<int>(std::ceil(seconds / longestSubStep - 1e-9)));
+        for (int done = 0; done < count; ++done) {
             world_->advance(seconds / count, *this);
         }
         bodies_.endTouchesOfSeparated();

@@ -1,5 +1,5 @@
 // Balls striking each other: momentum, energy, direction, no passing through.
-#include "PhysicsCourt.h"
+#include "tests/unit/physics/PhysicsCourt.h"
 
 #include <gtest/gtest.h>
 

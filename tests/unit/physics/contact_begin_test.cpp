@@ -1,5 +1,5 @@
 // When the delegate is told of a contact, how often, and what it can read then.
-#include "PhysicsCourt.h"
+#include "tests/unit/physics/PhysicsCourt.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Balls against floor and wall, and the rule for rolling friction.
-#include "PhysicsCourt.h"
+#include "tests/unit/physics/PhysicsCourt.h"
 
 #include <gtest/gtest.h>
 

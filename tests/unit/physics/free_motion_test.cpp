@@ -1,5 +1,5 @@
 // Rolling and flight of a single ball against closed forms.
-#include "PhysicsCourt.h"
+#include "tests/unit/physics/PhysicsCourt.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Same scene, same calls: the same positions to the last bit.
-#include "PhysicsCourt.h"
+#include "tests/unit/physics/PhysicsCourt.h"
 
 #include <gtest/gtest.h>
 

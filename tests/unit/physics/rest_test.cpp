@@ -1,5 +1,5 @@
 // Balls that have come to rest, alone and in piles, and what sets them in motion again.
-#include "PhysicsCourt.h"
+#include "tests/unit/physics/PhysicsCourt.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // What the game changes in the scene is taken over at the next tick.
-#include "PhysicsCourt.h"
+#include "tests/unit/physics/PhysicsCourt.h"
 
 #include <gtest/gtest.h>
 

@@ -46,7 +46,7 @@ TEST(RandomSource, UniformNumbersSpreadEvenly) {
         ++counts[std::min<std::size_t>(static_cast<std::size_t>(drawn * 10), 9)];
     }
     for (const int count : counts) {
-        EXPECT_NEAR(count, draws / 10, 400); // more than four standard deviations
+        EXPECT_NEAR(count, draws / 10.0, 400); // more than four standard deviations
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <unistd.h>
 
 namespace vorbel {
 
@@ -20,7 +21,8 @@ protected:
         fs::create_directories((folder / file).parent_path());
         std::ofstream(folder / file) << "content";
     }
-    const fs::path folder = fs::path(testing::TempDir()) / "vorbel-resources-test";
+    const fs::path folder = // one for each test: several run at once
+        fs::path(testing::TempDir()) / ("vorbel-resources-" + std::to_string(::getpid()));
 };
 
 TEST_F(ResourcesTest, FilesAreFoundByNameAndExtension) {
