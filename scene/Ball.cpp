@@ -29,7 +29,8 @@ std::shared_ptr<PhysicsBody> makeBallBody(PhysicsBody::Type type) {
 }
 
 Node::Ptr makeBall(BallColor color, const Vec3& position, PhysicsBody::Type type) {
-    auto ball = std::make_shared<Node>(Geometry{Sphere{ballRadius}, {.diffuse = colorOf(color)}});
+    auto ball =
+        std::make_shared<Node>(Geometry{Sphere{ballRadius}, {.diffuse = colorOf(color), .seams = true}});
     ball->name = nodeName(color);
     ball->setPosition(position);
     ball->body = makeBallBody(type);

@@ -1,0 +1,106 @@
+#include "platform/render/Layer.h"
+
+#include "platform/render/Shaders.h"
+
+namespace vorbel {
+
+namespace {
+
+constexpr int partFloats = 4;   // left, bottom, right, top: fractions of the picture
+constexpr int offsetFloats = 2; // from there to the place in the sheet, pixels
+constexpr int pieceFloats = partFloats + offsetFloats;
+
+void setAttribute(QOpenGLExtraFunctions& gl, GLuint location, int components, int first) {
+    const auto offset = reinterpret_cast<const void*>( // the call's way to say a number
+        static_cast<std::uintptr_t>(first) * sizeof(float));
+    gl.glVertexAttribPointer(location, components, GL_FLOAT, GL_FALSE, pieceFloats * sizeof(float), offset);
+    gl.glEnableVertexAttribArray(location);
+    gl.glVertexAttribDivisor(location, 1);
+}
+
+} // namespace
+
+std::unique_ptr<Layer> Layer::create(std::string& error) {
+    auto encode = ShaderProgram::create(shaders::pieceVertex, shaders::encodeFragment, "", error);
+    auto copy = ShaderProgram::create(shaders::screenVertex, shaders::copyFragment, "", error);
+    if (!encode || !copy) {
+        return nullptr;
+    }
+    return std::unique_ptr<Layer>(new Layer(std::move(*encode), std::move(*copy), currentGl()));
+}
+
+Layer::Layer(ShaderProgram encode, ShaderProgram copy, QOpenGLExtraFunctions& gl)
+    : encode_(std::move(encode)),
+      copy_(std::move(copy)),
+      pieces_(newBuffer(gl)),
+      pieceArray_(newVertexArray(gl)),
+      emptyArray_(newVertexArray(gl)) {
+    gl.glBindVertexArray(pieceArray_.id());
+    gl.glBindBuffer(GL_ARRAY_BUFFER, pieces_.id());
+    setAttribute(gl, 0, partFloats, 0);
+    setAttribute(gl, 1, offsetFloats, partFloats);
+    gl.glBindVertexArray(0);
+}
+
+bool Layer::resize(QOpenGLExtraFunctions& gl, int width, int height) {
+    if (width == width_ && height == height_) {
+        return false;
+    }
+    width_ = width;
+    height_ = height;
+    texture_ = newTexture(gl);
+    framebuffer_ = newFramebuffer(gl);
+    gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
+    gl.glBindTexture(GL_TEXTURE_2D, texture_.id());
+    gl.glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, width, height, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
+    gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    gl.glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_.id());
+    gl.glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, texture_.id(), 0);
+    return true;
+}
+
+void Layer::put(QOpenGLExtraFunctions& gl, std::span<const Piece> pieces, GLuint sheet) {
+    places_.clear();
+    const auto w = static_cast<float>(width_);
+    const auto h = static_cast<float>(height_);
+    for (const Piece& piece : pieces) {
+        const PixelRect& part = piece.part;
+        places_.insert(places_.end(), {static_cast<float>(part.left) / w, static_cast<float>(part.bottom) / h,
+                                       static_cast<float>(part.right) / w, static_cast<float>(part.top) / h,
+                                       static_cast<float>(piece.left - part.left),
+                                       static_cast<float>(piece.bottom - part.bottom)});
+    }
+    gl.glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_.id());
+    gl.glViewport(0, 0, width_, height_);
+    gl.glDisable(GL_CULL_FACE);
+    gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
+    gl.glBindTexture(GL_TEXTURE_2D, sheet);
+    gl.glBindBuffer(GL_ARRAY_BUFFER, pieces_.id());
+    gl.glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(places_.size() * sizeof(float)), places_.data(),
+                    GL_STREAM_DRAW);
+    encode_.use(gl);
+    gl.glBindVertexArray(pieceArray_.id());
+    gl.glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(pieces.size()));
+}
+
+void Layer::show(QOpenGLExtraFunctions& gl, GLuint framebuffer) const {
+    gl.glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
+    gl.glViewport(0, 0, width_, height_);
+    GLint samples = 0;
+    gl.glGetIntegerv(GL_SAMPLES, &samples);
+    if (samples == 0) { // a plain copy, many times faster than shading without graphics hardware
+        gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer_.id());
+        gl.glBlitFramebuffer(0, 0, width_, height_, 0, 0, width_, height_, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+        gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer);
+        return;
+    }
+    gl.glDisable(GL_CULL_FACE);
+    gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
+    gl.glBindTexture(GL_TEXTURE_2D, texture_.id());
+    copy_.use(gl);
+    gl.glBindVertexArray(emptyArray_.id());
+    gl.glDrawArrays(GL_TRIANGLES, 0, 3);
+}
+
+} // namespace vorbel

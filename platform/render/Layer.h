@@ -1,0 +1,42 @@
+// The finished picture, kept from frame to frame in the encoding of the screen.
+#pragma once
+
+#include "platform/render/Regions.h"
+#include "platform/render/ShaderProgram.h"
+
+#include <memory>
+#include <span>
+
+namespace vorbel {
+
+class Layer {
+public:
+    // None when a shader fails; `error` then says why.
+    [[nodiscard]] static std::unique_ptr<Layer> create(std::string& error);
+
+    // True when the size was another one; the content is then lost.
+    bool resize(QOpenGLExtraFunctions& gl, int width, int height);
+
+    // Encodes pieces of linear light from the texture of a sheet and puts them in place. Changes framebuffer
+    // and viewport; depth, stencil and scissor test must be off.
+    void put(QOpenGLExtraFunctions& gl, std::span<const Piece> pieces, GLuint sheet);
+
+    // Copies all of it into the framebuffer; the same tests must be off.
+    void show(QOpenGLExtraFunctions& gl, GLuint framebuffer) const;
+
+private:
+    Layer(ShaderProgram encode, ShaderProgram copy, QOpenGLExtraFunctions& gl);
+
+    ShaderProgram encode_;
+    ShaderProgram copy_;
+    GlObject pieces_;
+    GlObject pieceArray_;
+    GlObject emptyArray_; // the triangle over the whole picture makes its corners in the shader
+    GlObject texture_;
+    GlObject framebuffer_;
+    int width_ = 0;
+    int height_ = 0;
+    std::vector<float> places_;
+};
+
+} // namespace vorbel

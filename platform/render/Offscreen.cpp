@@ -1,0 +1,53 @@
+#include "platform/render/Offscreen.h"
+
+#include "platform/render/Renderer.h"
+
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QOpenGLFramebufferObject>
+#include <QOpenGLFunctions>
+
+namespace vorbel {
+
+namespace {
+
+QSurfaceFormat coreProfile() {
+    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    if (format.renderableType() != QSurfaceFormat::OpenGLES) {
+        format.setVersion(3, 3);
+        format.setProfile(QSurfaceFormat::CoreProfile);
+    }
+    return format;
+}
+
+QImage drawWith(Renderer& renderer, const Frame& frame, QSize size, std::string& error) {
+    QOpenGLFramebufferObject target(size);
+    if (!target.isValid()) {
+        error = "The graphics driver has no room for a picture of this size.";
+        return {};
+    }
+    renderer.draw(frame, target.handle(), size.width(), size.height());
+    return target.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+} // namespace
+
+QImage renderToImage(const Frame& frame, int width, int height, const Resources& resources,
+                     std::string& error) {
+    QOffscreenSurface surface;
+    surface.setFormat(coreProfile());
+    surface.create();
+    QOpenGLContext context;
+    context.setFormat(coreProfile());
+    if (!context.create() || !context.makeCurrent(&surface)) {
+        error = "OpenGL is not available.";
+        return {};
+    }
+    QImage image;
+    if (const auto renderer = Renderer::create(resources, error)) {
+        image = drawWith(*renderer, frame, {width, height}, error);
+    }
+    return image;
+}
+
+} // namespace vorbel

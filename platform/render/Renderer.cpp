@@ -1,0 +1,245 @@
+#include "platform/render/Renderer.h"
+
+#include "platform/render/Layer.h"
+#include "platform/render/RegionPainter.h"
+#include "platform/render/ShadowMap.h"
+#include "platform/render/Sheet.h"
+
+#include <QSurfaceFormat>
+
+namespace vorbel {
+
+namespace {
+
+// A reason not to draw with the current context, or an empty text.
+std::string contextProblem() {
+    const QOpenGLContext* context = QOpenGLContext::currentContext();
+    if (context == nullptr) {
+        return "OpenGL is not available.";
+    }
+    const bool embedded = context->isOpenGLES();
+    const std::pair<int, int> needed = embedded ? std::pair(3, 0) : std::pair(3, 3);
+    const std::pair<int, int> version(context->format().majorVersion(), context->format().minorVersion());
+    if (version >= needed) {
+        return {};
+    }
+    return "OpenGL " + std::string(embedded ? "ES 3.0" : "3.3") + " is needed, but there is only " +
+           std::to_string(version.first) + "." + std::to_string(version.second) + ".";
+}
+
+constexpr int sheetHeight = 256; // pixels: the sheet is as wide as the picture, and lower to save memory
+
+// Unites what is nearer than that many pixels are worth.
+constexpr long pictureOverhead = 1500;
+constexpr long shadowOverhead = 4000;
+
+} // namespace
+
+struct Renderer::Parts {
+    Redraw redraw = Redraw::changes;
+    std::unique_ptr<BatchDrawer> drawer;
+    std::unique_ptr<RegionPainter> painter;
+    std::unique_ptr<Layer> layer;
+    Sheet sheet;
+    ShadowMap shadows;
+    TrackedFrame tracked;
+    DrawList list;
+    BatchPlan plan;
+    std::vector<PixelRect> regions;
+    std::vector<Piece> pieces;
+    std::vector<RegionBatches> batches; // of the pieces
+    std::vector<ShadowRegion> shadowRegions;
+    Effort effort;
+
+    void planShadows(QOpenGLExtraFunctions& gl, const Damage& damage);
+    void planPicture(const Damage& damage);
+    void beginDrawer(QOpenGLExtraFunctions& gl);
+    void drawSheet(QOpenGLExtraFunctions& gl, std::size_t first, std::size_t end);
+    void redrawChanges(QOpenGLExtraFunctions& gl, const Damage& damage);
+};
+
+std::unique_ptr<Renderer> Renderer::create(const Resources& resources, std::string& error, Redraw redraw) {
+    if (std::string problem = contextProblem(); !problem.empty()) {
+        error = std::move(problem);
+        return nullptr;
+    }
+    QOpenGLExtraFunctions& gl = currentGl();
+    auto drawer = BatchDrawer::create(resources, error);
+    auto painter = RegionPainter::create(error);
+    auto layer = Layer::create(error);
+    if (!drawer || !painter || !layer) {
+        return nullptr;
+    }
+    Sheet sheet;
+    if (!sheet.resize(gl, 16, 16)) {
+        error = "The graphics driver cannot draw into a multisampled picture of half floats.";
+        return nullptr;
+    }
+    auto parts = std::make_unique<Parts>();
+    parts->redraw = redraw;
+    parts->drawer = std::move(drawer);
+    parts->painter = std::move(painter);
+    parts->layer = std::move(layer);
+    parts->sheet = std::move(sheet);
+    return std::unique_ptr<Renderer>(new Renderer(std::move(parts)));
+}
+
+Renderer::Renderer(std::unique_ptr<Parts> parts) : parts_(std::move(parts)) {}
+Renderer::~Renderer() = default;
+
+Renderer::Effort Renderer::lastEffort() const {
+    return parts_->effort;
+}
+
+void Renderer::Parts::planShadows(QOpenGLExtraFunctions& gl, const Damage& damage) {
+    const int size = ShadowMap::sizeFor(gl, tracked.frame().spot);
+    shadows.resize(gl, size);
+    regions.clear();
+    if (damage.shadowMap) {
+        regions.push_back({0, 0, size, size});
+    } else {
+        regions = damage.lit;
+        mergeRegions(regions, shadowOverhead);
+    }
+    shadowRegions.clear();
+    for (const PixelRect& part : regions) {
+        shadowRegions.push_back({part, plan.choose(list.solid, &ItemBounds::lit, part),
+                                 plan.choose(list.cutOut, &ItemBounds::lit, part)});
+        effort.texels += part.area();
+    }
+}
+
+void Renderer::Parts::planPicture(const Damage& damage) {
+    const Perspective& view = tracked.view();
+    regions.clear();
+    if (damage.picture) {
+        regions.push_back({0, 0, view.width, view.height});
+    } else {
+        for (const PixelRect& part : damage.seen) {
+            regions.push_back(alignedRegion(part, view.width, view.height));
+        }
+        mergeRegions(regions, pictureOverhead);
+    }
+    placePieces(regions, sheet.width(), sheet.height(), pieces);
+    batches.clear();
+    for (const Piece& piece : pieces) {
+        batches.push_back(chooseBatches(plan, list, tracked, piece.part));
+        effort.pixels += piece.part.area();
+    }
+}
+
+void Renderer::Parts::beginDrawer(QOpenGLExtraFunctions& gl) {
+    const Frame& frame = tracked.frame();
+    const float aspectRatio =
+        static_cast<float>(tracked.view().width) / static_cast<float>(tracked.view().height);
+    Views views;
+    views[0] = sceneView(frame, list, aspectRatio);
+    views[1] = list.floor ? mirroredView(frame, list, aspectRatio) : views[0];
+    views[2].viewProjection = tracked.frustum().viewProjection();
+    drawer->begin(gl, plan.instances(), views, lightUniforms(frame, tracked.frustum()));
+    gl.glClearColor(views[0].background.r, views[0].background.g, views[0].background.b, 1);
+}
+
+// Draws the pieces from `first` to before `end`, which share a sheet, and puts them into the layer.
+void Renderer::Parts::drawSheet(QOpenGLExtraFunctions& gl, std::size_t first, std::size_t end) {
+    PixelRect used;
+    for (std::size_t i = first; i < end; ++i) {
+        used = united(used, pieces[i].place());
+    }
+    gl.glEnable(GL_DEPTH_TEST);
+    gl.glEnable(GL_SCISSOR_TEST);
+    sheet.beginDrawing(gl);
+    gl.glScissor(used.left, used.bottom, used.width(), used.height());
+    gl.glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
+    drawer->setView(gl, Eye::camera);
+    for (std::size_t i = first; i < end; ++i) {
+        painter->paint(gl, pieces[i], tracked.view(), batches[i], plan, *drawer);
+    }
+    gl.glDisable(GL_DEPTH_TEST);
+    gl.glDisable(GL_SCISSOR_TEST);
+    layer->put(gl, std::span(pieces).subspan(first, end - first), sheet.resolve(gl, used));
+}
+
+void Renderer::Parts::redrawChanges(QOpenGLExtraFunctions& gl, const Damage& damage) {
+    if (damage.looks || damage.picture) {
+        list = makeDrawList(tracked.frame());
+    } else {
+        updateInstances(list, tracked.frame(), damage.moved);
+    }
+    plan.begin(list, tracked.bounds());
+    planShadows(gl, damage);
+    planPicture(damage);
+    beginDrawer(gl);
+    shadows.draw(gl, shadowRegions, plan, *drawer);
+    shadows.bind(gl);
+    for (std::size_t first = 0; first < pieces.size();) {
+        std::size_t end = first + 1;
+        while (end < pieces.size() && pieces[end].sheet == pieces[first].sheet) {
+            ++end;
+        }
+        drawSheet(gl, first, end);
+        first = end;
+    }
+}
+
+namespace {
+
+// What other users of the context may have left, and what the passes rely on.
+void setDefaults(QOpenGLExtraFunctions& gl) {
+    for (const GLenum capability :
+         std::initializer_list<GLenum>{GL_BLEND, GL_STENCIL_TEST, GL_SAMPLE_ALPHA_TO_COVERAGE}) {
+        gl.glDisable(capability);
+    }
+    gl.glEnable(GL_DEPTH_TEST);
+    gl.glEnable(GL_SCISSOR_TEST);
+    gl.glDepthFunc(GL_LEQUAL);
+    gl.glDepthMask(GL_TRUE);
+    gl.glDepthRangef(0, 1);
+    gl.glClearDepthf(1);
+    gl.glClearStencil(0);
+    gl.glStencilMask(0xFF);
+    gl.glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    gl.glFrontFace(GL_CCW);
+    gl.glCullFace(GL_BACK);
+    gl.glBlendEquation(GL_FUNC_ADD);
+    gl.glBindSampler(binding::pictureUnit, 0);
+    gl.glBindSampler(binding::shadowUnit, 0);
+}
+
+void releaseBindings(QOpenGLExtraFunctions& gl) {
+    gl.glDisable(GL_CULL_FACE);
+    gl.glUseProgram(0);
+    gl.glBindVertexArray(0);
+    gl.glBindBuffer(GL_ARRAY_BUFFER, 0);
+    gl.glBindBufferBase(GL_UNIFORM_BUFFER, binding::viewBlock, 0);
+    gl.glBindBufferBase(GL_UNIFORM_BUFFER, binding::lightBlock, 0);
+    for (const GLint unit : {binding::shadowUnit, binding::pictureUnit}) {
+        gl.glActiveTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
+        gl.glBindTexture(GL_TEXTURE_2D, 0);
+    }
+}
+
+} // namespace
+
+void Renderer::draw(const Frame& frame, unsigned targetFramebuffer, int width, int height) {
+    if (width <= 0 || height <= 0) {
+        return;
+    }
+    QOpenGLExtraFunctions& gl = currentGl();
+    Parts& parts = *parts_;
+    setDefaults(gl);
+    if (parts.layer->resize(gl, width, height) || parts.redraw == Redraw::all) {
+        parts.tracked.forget();
+    }
+    parts.effort = {};
+    const Damage& damage = parts.tracked.follow(frame, width, height);
+    if (!damage.nothing() && parts.sheet.resize(gl, width, std::min(height, sheetHeight))) {
+        parts.redrawChanges(gl, damage);
+    }
+    gl.glDisable(GL_DEPTH_TEST);
+    gl.glDisable(GL_SCISSOR_TEST);
+    parts.layer->show(gl, targetFramebuffer);
+    releaseBindings(gl);
+}
+
+} // namespace vorbel

@@ -1,0 +1,191 @@
+#include "platform/render/Shaders.h"
+
+namespace vorbel::shaders {
+
+const std::string_view surfaceVertex = R"(
+layout(std140) uniform View {
+    mat4 viewProjection;
+    vec4 background;
+    vec4 eye;
+};
+layout(location = 0) in vec3 position;
+layout(location = 1) in vec3 normal;
+layout(location = 2) in vec2 uv;
+layout(location = 3) in vec4 worldX;
+layout(location = 4) in vec4 worldY;
+layout(location = 5) in vec4 worldZ;
+layout(location = 6) in vec4 diffuse;
+layout(location = 7) in vec4 emission;
+
+invariant gl_Position; // the depth-only pass and the coloured one must agree
+out vec3 worldPosition;
+out vec3 worldNormal;
+out vec2 pictureUv;
+flat out vec4 surfaceDiffuse;
+flat out vec4 surfaceEmission;
+out vec3 shapePoint;
+
+void main() {
+    vec4 point = vec4(position, 1.0);
+    worldPosition = vec3(dot(worldX, point), dot(worldY, point), dot(worldZ, point));
+    // Normals go with the cofactors of the world matrix, so that they stay upright on stretched shapes.
+    worldNormal = vec3(dot(cross(worldY.xyz, worldZ.xyz), normal), dot(cross(worldZ.xyz, worldX.xyz), normal),
+                       dot(cross(worldX.xyz, worldY.xyz), normal));
+    pictureUv = uv;
+    surfaceDiffuse = diffuse;
+    surfaceEmission = emission;
+    shapePoint = position;
+    gl_Position = viewProjection * vec4(worldPosition, 1.0);
+}
+)";
+
+const std::string_view surfaceFragment = R"(
+layout(std140) uniform View {
+    mat4 viewProjection;
+    vec4 background;  // linear light; w: reflectivity of the floor
+    vec4 eye;         // position; w: far plane, metres
+};
+layout(std140) uniform Lights {
+    mat4 lightView;       // from the arena to the light, which looks along -z
+    vec4 ambient;
+    vec4 lightPosition;
+    vec4 lightDirection;
+    vec4 lightStrength;
+    vec4 cone;            // cosines of the inner and the outer half angle; z: texel of the shadow map, as a tangent
+    vec4 shadowScale;     // 1 / near, 1 / (1 / near - 1 / far), 1 / (2 tan half angle), bias in metres
+    vec4 shadowOffset[16]; // xy: texture coordinates, zw: the same as tangents of the angle at the light
+};
+uniform sampler2D picture;
+uniform highp sampler2DShadow shadowMap;
+
+in vec3 worldPosition;
+in vec3 worldNormal;
+in vec2 pictureUv;
+flat in vec4 surfaceDiffuse;
+flat in vec4 surfaceEmission; // w: 1 when the surface has seams
+in vec3 shapePoint;           // in the frame of the shape
+layout(location = 0) out vec4 color;
+
+// Share of the light that reaches the surface. The depth that each sample is compared with follows the plane of
+// the surface, so that steep surfaces do not shadow themselves.
+float visibility(vec3 normal) {
+    vec3 point = (lightView * vec4(worldPosition, 1.0)).xyz;
+    vec3 facing = mat3(lightView) * normal;
+    float distance = -point.z;
+    float plane = max(-dot(facing, point), 0.05 * distance);
+    vec2 slope = facing.xy / plane * shadowScale.y;
+    vec3 start = vec3(point.xy / distance * shadowScale.z + 0.5,
+                      (shadowScale.x - 1.0 / (distance - shadowScale.w)) * shadowScale.y);
+    start.z -= dot(abs(slope), cone.zz); // each sample mixes texels up to one away
+    float sum = 0.0;
+    for (int i = 0; i < 16; ++i) { // a constant, so that compilers unroll it
+        vec4 offset = shadowOffset[i];
+        sum += textureLod(shadowMap, start + vec3(offset.xy, dot(slope, offset.zw)), 0.0);
+    }
+    return sum / 16.0;
+}
+
+vec3 incomingLight() {
+    vec3 normal = normalize(gl_FrontFacing ? worldNormal : -worldNormal);
+    vec3 toLight = normalize(lightPosition.xyz - worldPosition);
+    float spot = smoothstep(cone.y, cone.x, dot(-toLight, lightDirection.xyz)) * max(dot(normal, toLight), 0.0);
+#ifndef MIRROR // in the faint image in the floor nobody sees shadows
+    if (spot > 0.0) {
+        spot *= visibility(normal);
+    }
+#endif
+    return ambient.rgb + lightStrength.rgb * spot;
+}
+
+// Leather panels, eight on a ball, every other one a little darker, with sewn seams between them: so that the
+// turning of a ball is seen.
+float leather() {
+    const float seamHalfWidth = 0.05; // of the radius
+    vec3 point = normalize(shapePoint);
+    vec3 pixel = max(fwidth(point), vec3(0.01));
+    vec3 side = clamp(point / pixel * 2.0, -1.0, 1.0);
+    float dark = 0.5 - 0.5 * side.x * side.y * side.z;
+    vec3 seam = (min(abs(point) + pixel * 0.5, seamHalfWidth) - min(abs(point) - pixel * 0.5, seamHalfWidth)) / pixel;
+    return (1.0 - 0.18 * dark) * (1.0 - 0.3 * max(max(seam.x, seam.y), seam.z));
+}
+
+void main() {
+    vec4 surface = surfaceDiffuse;
+#ifdef PICTURE
+    vec4 texel = texture(picture, pictureUv); // its colours are multiplied by alpha: no halo of hidden ones
+    float cover = clamp((texel.a - 0.5) / max(fwidth(texel.a), 0.001) + 0.5, 0.0, 1.0);
+    surface = vec4(surface.rgb * texel.rgb / max(texel.a, 0.001), surface.a * cover);
+#endif
+#ifdef DEPTH
+    if (surface.a < 0.5) {
+        discard;
+    }
+#else
+#ifndef UNLIT
+    surface.rgb *= incomingLight();
+#endif
+    surface.rgb = min(surface.rgb + surfaceEmission.rgb, 1.0);
+    if (surfaceEmission.w > 0.5) {
+        surface.rgb *= leather();
+    }
+#ifdef MIRROR
+    surface.rgb *= background.w;
+#endif
+#ifdef FLOOR
+    // What is there already is the mirror image. Both fade into the background before the floor ends.
+    float seen = 1.0 - smoothstep(0.4, 0.9, length(worldPosition - eye.xyz) / eye.w);
+    surface = vec4(mix(background.rgb, surface.rgb, seen), seen);
+#endif
+    color = surface;
+#endif
+}
+)";
+
+const std::string_view screenVertex = R"(
+void main() {
+    vec2 corner = vec2(gl_VertexID == 1 ? 3.0 : -1.0, gl_VertexID == 2 ? 3.0 : -1.0);
+    gl_Position = vec4(corner, 1.0, 1.0);
+}
+)";
+
+const std::string_view fillFragment = R"(
+layout(std140) uniform View {
+    mat4 viewProjection;
+    vec4 background;
+    vec4 eye;
+};
+layout(location = 0) out vec4 color;
+void main() { color = vec4(background.rgb * background.w, 1.0); }
+)";
+
+const std::string_view pieceVertex = R"(
+layout(location = 0) in vec4 part;   // left, bottom, right, top: fractions of the picture
+layout(location = 1) in vec2 offset; // from there to the place in the sheet, pixels
+flat out ivec2 shift;
+void main() {
+    vec2 corner = vec2(gl_VertexID & 1, gl_VertexID >> 1);
+    shift = ivec2(offset);
+    gl_Position = vec4(mix(part.xy, part.zw, corner) * 2.0 - 1.0, 0.0, 1.0);
+}
+)";
+
+const std::string_view encodeFragment = R"(
+uniform sampler2D picture;
+flat in ivec2 shift;
+layout(location = 0) out vec4 color;
+void main() {
+    vec3 linear = texelFetch(picture, ivec2(gl_FragCoord.xy) + shift, 0).rgb;
+    vec3 encoded = mix(linear * 12.92, 1.055 * pow(linear, vec3(1.0 / 2.4)) - 0.055, step(0.0031308, linear));
+    // Half a step of noise, the same in every frame, hides the steps of slow gradients.
+    float noise = fract(52.9829189 * fract(dot(gl_FragCoord.xy, vec2(0.06711056, 0.00583715)))) - 0.5;
+    color = vec4(encoded + noise / 255.0, 1.0);
+}
+)";
+
+const std::string_view copyFragment = R"(
+uniform sampler2D picture;
+layout(location = 0) out vec4 color;
+void main() { color = texelFetch(picture, ivec2(gl_FragCoord.xy), 0); }
+)";
+
+} // namespace vorbel::shaders

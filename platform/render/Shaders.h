@@ -1,0 +1,22 @@
+// The sources of all shaders, without version line; see ShaderProgram.
+#pragma once
+
+#include <string_view>
+
+namespace vorbel::shaders {
+
+// Surfaces. Fragment switches: PICTURE (else one colour), UNLIT, MIRROR (image in the floor), FLOOR, DEPTH
+// (no colour).
+extern const std::string_view surfaceVertex;
+extern const std::string_view surfaceFragment;
+
+// A triangle over the whole viewport, at the far plane.
+extern const std::string_view screenVertex;
+extern const std::string_view fillFragment; // the background as the floor mirrors it
+extern const std::string_view copyFragment; // a picture as it is
+
+// Rectangles, one an instance.
+extern const std::string_view pieceVertex;
+extern const std::string_view encodeFragment; // linear light to dithered sRGB
+
+} // namespace vorbel::shaders

@@ -1,0 +1,92 @@
+#include "platform/render/ShadowFrustum.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <glm/gtc/matrix_transform.hpp>
+
+namespace vorbel {
+
+namespace {
+
+constexpr float nearest = 0.5F; // metres: casters closer to the light than this are cut off
+
+} // namespace
+
+glm::mat4 ShadowFrustum::viewProjection() const {
+    return glm::frustum(-halfWidth * zNear, halfWidth * zNear, -halfWidth * zNear, halfWidth * zNear, zNear,
+                        zFar) *
+           view;
+}
+
+bool castsShadow(const DrawItem& item) {
+    return !std::holds_alternative<Floor>(item.shape) && item.opacity * item.material.diffuse.alpha >= 1;
+}
+
+ShadowFrustum shadowFrustum(const SpotLight& spot, const std::vector<DrawItem>& items) {
+    ShadowFrustum frustum;
+    const glm::vec3 up = std::abs(spot.direction.y) > 0.999F ? glm::vec3(0, 0, -1) : glm::vec3(0, 1, 0);
+    frustum.view = glm::lookAt(spot.position, spot.position + spot.direction, up);
+    frustum.halfWidth = std::tan(spot.outerHalfAngle);
+    float closest = 1000;
+    float farthest = nearest;
+    for (const DrawItem& item : items) {
+        if (castsShadow(item)) {
+            const Extent extent = extentOf(item);
+            for (const glm::vec3& corner : extent.corners()) {
+                const float depth = glm::dot(corner - spot.position, spot.direction);
+                closest = std::min(closest, depth - extent.margin);
+                farthest = std::max(farthest, depth + extent.margin);
+            }
+        }
+    }
+    frustum.zNear = std::max(std::floor(closest), nearest);
+    frustum.zFar = std::max(std::ceil(farthest), frustum.zNear + 1);
+    return frustum;
+}
+
+namespace {
+
+// How much farther than the point its shadow falls, as a factor on the distance from the light.
+float reach(const glm::vec3& point, const SpotLight& spot, const ShadowFrustum& frustum,
+            const std::optional<glm::vec4>& floor) {
+    const float depth = std::max(glm::dot(point - spot.position, spot.direction), nearest);
+    const float end = std::max(frustum.zFar / depth, 1.0F);
+    if (!floor) {
+        return end;
+    }
+    const float lightHeight = glm::dot(glm::vec3(*floor), spot.position) + floor->w;
+    const float fall = -glm::dot(glm::vec3(*floor), point - spot.position);
+    constexpr float shallow = 0.05F; // metres of fall: such a shadow goes on to the horizon
+    return lightHeight > 0 && fall > shallow ? std::max(lightHeight / fall, 1.0F) : end;
+}
+
+} // namespace
+
+Extent shadowExtent(const Extent& caster, const SpotLight& spot, const ShadowFrustum& frustum, float blur,
+                    const std::optional<glm::vec4>& floor) {
+    Extent extent;
+    for (const glm::vec3& corner : caster.corners()) {
+        const float factor = reach(corner, spot, frustum, floor);
+        const glm::vec3 path = (corner - spot.position) * factor;
+        const float length = glm::length(path);
+        const glm::vec3 end = spot.position + path;
+        const float radius = caster.margin * factor + blur * length;
+        if (!floor) {
+            extent.margin = std::max(extent.margin, radius);
+            extent.add(end);
+            continue;
+        }
+        // On a slanting floor the round shadow of a round margin is longer than wide.
+        const glm::vec3 normal(*floor);
+        const float slant = std::max(std::abs(glm::dot(normal, path)) / length, 0.1F);
+        const glm::vec3 along = glm::normalize(glm::cross(normal, glm::vec3(normal.z, normal.x, normal.y)));
+        const glm::vec3 across = glm::cross(normal, along);
+        for (const glm::vec2 side : {glm::vec2(-1, -1), {1, -1}, {-1, 1}, {1, 1}}) {
+            extent.add(end + radius / slant * (side.x * along + side.y * across));
+        }
+    }
+    return extent;
+}
+
+} // namespace vorbel

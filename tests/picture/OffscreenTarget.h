@@ -1,0 +1,53 @@
+// An OpenGL context with a framebuffer, without a window.
+#pragma once
+
+#include <QImage>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QOpenGLFramebufferObject>
+#include <QOpenGLFunctions>
+
+#include <memory>
+
+namespace vorbel {
+
+// Current from the start. Needs a QGuiApplication.
+class OffscreenTarget {
+public:
+    OffscreenTarget(int width, int height) {
+        QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+        if (QOpenGLContext::openGLModuleType() != QOpenGLContext::LibGLES) {
+            format.setVersion(3, 3);
+            format.setProfile(QSurfaceFormat::CoreProfile);
+        }
+        surface_.setFormat(format);
+        surface_.create();
+        context_.setFormat(format);
+        works_ = context_.create() && context_.makeCurrent(&surface_);
+        if (works_) {
+            resize(width, height);
+        }
+    }
+
+    [[nodiscard]] bool works() const { return works_; }
+    void resize(int width, int height) {
+        framebuffer_ = std::make_unique<QOpenGLFramebufferObject>(width, height);
+    }
+
+    [[nodiscard]] unsigned framebuffer() const { return framebuffer_->handle(); }
+    [[nodiscard]] int width() const { return framebuffer_->width(); } // pixels
+    [[nodiscard]] int height() const { return framebuffer_->height(); }
+
+    [[nodiscard]] QImage image() const {
+        return framebuffer_->toImage().convertToFormat(QImage::Format_RGB32);
+    }
+    void finish() { context_.functions()->glFinish(); } // waits until all is drawn
+
+private:
+    QOffscreenSurface surface_;
+    QOpenGLContext context_;
+    std::unique_ptr<QOpenGLFramebufferObject> framebuffer_;
+    bool works_ = false;
+};
+
+} // namespace vorbel

@@ -1,0 +1,116 @@
+// The arena compared with stored pictures. After a wanted change of the picture run this with
+// VORBEL_UPDATE_PICTURES=1, look at the new references and store them with the change.
+#include "engine/GameLogic.h"
+#include "platform/random/RandomSource.h"
+#include "platform/render/Offscreen.h"
+#include "scene/Ball.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace vorbel {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Difference {
+    double mean = 0;        // of all components, in steps of 255
+    double farOffShare = 0; // of pixels that are off by more than 24 in some component
+    QImage picture;         // four times as strong as it is
+};
+
+Difference compare(const QImage& actual, const QImage& wanted) {
+    Difference difference;
+    difference.picture = QImage(actual.size(), QImage::Format_RGB32);
+    for (int y = 0; y < actual.height(); ++y) {
+        for (int x = 0; x < actual.width(); ++x) {
+            const QColor a = actual.pixelColor(x, y);
+            const QColor b = wanted.pixelColor(x, y);
+            const std::array<int, 3> off = {std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                                            std::abs(a.blue() - b.blue())};
+            difference.mean += off[0] + off[1] + off[2];
+            difference.farOffShare += std::max({off[0], off[1], off[2]}) > 24 ? 1 : 0;
+            difference.picture.setPixelColor(
+                x, y,
+                QColor(std::min(4 * off[0], 255), std::min(4 * off[1], 255), std::min(4 * off[2], 255)));
+        }
+    }
+    const double pixels = static_cast<double>(actual.width()) * actual.height();
+    difference.mean /= 3 * pixels;
+    difference.farOffShare /= pixels;
+    return difference;
+}
+
+// Compares with the stored picture of that name; leaves the picture and the difference in a folder when they
+// differ.
+void expectLooksLike(const QImage& actual, const std::string& name) {
+    const fs::path reference = fs::path(VORBEL_REFERENCE_PICTURES) / (name + ".png");
+    if (std::getenv("VORBEL_UPDATE_PICTURES") != nullptr) {
+        fs::create_directories(reference.parent_path());
+        ASSERT_TRUE(actual.save(QString::fromStdString(reference.string())));
+        return;
+    }
+    const QImage wanted(QString::fromStdString(reference.string()));
+    ASSERT_EQ(wanted.size(), actual.size()) << "no stored picture of this size: " << reference;
+    const Difference difference = compare(actual, wanted);
+    EXPECT_LT(difference.mean, 1.0);
+    EXPECT_LT(difference.farOffShare, 0.004);
+    if (testing::Test::HasFailure()) {
+        const fs::path folder = fs::absolute("picture-failures");
+        fs::create_directories(folder);
+        actual.save(QString::fromStdString((folder / (name + ".png")).string()));
+        difference.picture.save(QString::fromStdString((folder / (name + "-difference.png")).string()));
+        ADD_FAILURE() << "the picture and its difference are in " << folder;
+    }
+}
+
+// Spectators are blank planes here, so that a change of their pictures does not change these.
+QImage drawArena(const Scene& scene) {
+    std::string error;
+    QImage image = renderToImage(makeFrame(scene, 1), 600, 400, Resources(), error);
+    EXPECT_FALSE(image.isNull()) << error;
+    return image;
+}
+
+Scene makeArena() {
+    SeededRandom random(2024);
+    return GameLogic::create3DScene(random);
+}
+
+TEST(ArenaPicture, EmptyCourt) {
+    expectLooksLike(drawArena(makeArena()), "empty-court");
+}
+
+TEST(ArenaPicture, MiddleOfAnEnd) {
+    struct Placed {
+        BallColor color;
+        double x;
+        double z;
+    };
+    constexpr std::array<Placed, 9> balls = {{{BallColor::jack, 0.2, -6.0},
+                                              {BallColor::red, 0.05, -5.8},
+                                              {BallColor::blue, 0.4, -6.3},
+                                              {BallColor::red, -0.6, -4.6},
+                                              {BallColor::blue, 1.1, -5.0},
+                                              {BallColor::blue, 0.1, -3.0},
+                                              {BallColor::red, 3.3, -5.5},
+                                              {BallColor::blue, -1.1, -2.0},
+                                              {BallColor::red, -1.0, -0.9}}};
+    Scene scene = makeArena();
+    for (const Placed& ball : balls) {
+        scene.root->addChild(makeBall(ball.color, {ball.x, restingHeight, ball.z}, PhysicsBody::Type::fixed));
+    }
+    const Node::Ptr pointer = scene.root->findChild("pointer");
+    ASSERT_TRUE(pointer);
+    pointer->opacity = 1;
+    pointer->setEulerAngles({0, 0.2, 0});
+    expectLooksLike(drawArena(scene), "middle-of-an-end");
+}
+
+} // namespace
+} // namespace vorbel

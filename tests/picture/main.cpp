@@ -1,0 +1,27 @@
+#include <optional>
+
+#include <QGuiApplication>
+#include <gtest/gtest.h>
+
+namespace {
+
+// Made only when tests run: their names can be listed without a display.
+class GuiEnvironment : public testing::Environment {
+public:
+    GuiEnvironment(int& argc, char** argv) : argc_(argc), argv_(argv) {}
+    void SetUp() override { app_.emplace(argc_, argv_); }
+    void TearDown() override { app_.reset(); }
+
+private:
+    int& argc_;
+    char** argv_;
+    std::optional<QGuiApplication> app_;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    testing::AddGlobalTestEnvironment(new GuiEnvironment(argc, argv)); // owned by the framework
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,116 @@
+// What a new frame changes in the picture of the last one.
+#include "platform/render/TrackedFrame.h"
+
+#include <glm/gtc/matrix_transform.hpp>
+#include <gmock/gmock.h>
+
+namespace vorbel {
+namespace {
+
+constexpr int width = 600;
+constexpr int height = 400;
+
+class TrackedFrameTest : public testing::Test {
+protected:
+    TrackedFrameTest() {
+        frame.camera.world = glm::translate(glm::mat4(1), {0, 1, 0});
+        frame.spot = SpotLight{.position = {0, 12, -6}, .castsShadow = true, .shadowMapSize = 1024};
+        frame.items = {{&nodes[0], Floor{0.05}, {}, glm::mat4(1), 1}, ballAt(1, -4), ballAt(2, -8)};
+        tracked.follow(frame, width, height);
+    }
+
+    DrawItem ballAt(std::size_t node, float z) const {
+        const glm::mat4 place = glm::translate(glm::mat4(1), {0, 0.1F, z});
+        return {&nodes[node], Sphere{1}, {}, glm::scale(place, glm::vec3(0.1F)), 1};
+    }
+    const Damage& follow() { return tracked.follow(frame, width, height); }
+
+    std::array<char, 4> nodes{}; // stand for nodes: only their addresses count
+    Frame frame;
+    TrackedFrame tracked;
+};
+
+TEST_F(TrackedFrameTest, TheFirstFrameIsAllNew) {
+    EXPECT_TRUE(TrackedFrame().follow(frame, width, height).picture);
+}
+
+TEST_F(TrackedFrameTest, ForgottenFrameIsAllNew) {
+    tracked.forget();
+    EXPECT_TRUE(follow().picture);
+}
+
+TEST_F(TrackedFrameTest, TheSameFrameChangesNothing) {
+    EXPECT_TRUE(follow().nothing());
+}
+
+TEST_F(TrackedFrameTest, MovingBallChangesWhereItWasAndWhereItIs) {
+    const PixelRect before = tracked.bounds()[1].seen;
+    frame.items[1] = ballAt(1, -3);
+    const Damage& damage = follow();
+    EXPECT_FALSE(damage.picture);
+    EXPECT_FALSE(damage.looks);
+    EXPECT_THAT(damage.moved, testing::ElementsAre(1));
+    ASSERT_EQ(damage.seen.size(), 2U);
+    EXPECT_TRUE(damage.seen[0].contains(before));
+    EXPECT_TRUE(damage.seen[1].contains(tracked.bounds()[1].seen));
+    EXPECT_TRUE(damage.seen[1].contains(tracked.bounds()[1].mirror));
+    EXPECT_EQ(damage.lit.size(), 2U);
+}
+
+TEST_F(TrackedFrameTest, BallThatIsGoneLeavesDamageThereOnly) {
+    const PixelRect before = tracked.bounds()[1].seen;
+    frame.items.erase(frame.items.begin() + 1);
+    const Damage& damage = follow();
+    EXPECT_TRUE(damage.looks);
+    ASSERT_EQ(damage.seen.size(), 1U);
+    EXPECT_TRUE(damage.seen[0].contains(before));
+}
+
+TEST_F(TrackedFrameTest, NewBallInTheMiddleDamagesOnlyItsOwnPlace) {
+    frame.items.insert(frame.items.begin() + 1, ballAt(3, -6));
+    const Damage& damage = follow();
+    EXPECT_FALSE(damage.picture);
+    ASSERT_EQ(damage.seen.size(), 1U);
+    EXPECT_TRUE(damage.seen[0].contains(tracked.bounds()[1].seen));
+    EXPECT_EQ(tracked.bounds().size(), 4U);
+}
+
+TEST_F(TrackedFrameTest, AnotherNodeAtTheSamePlaceIsAChange) {
+    frame.items[1].node = &nodes[3];
+    EXPECT_FALSE(follow().seen.empty());
+}
+
+TEST_F(TrackedFrameTest, AnotherColourIsAChangeOfLooks) {
+    frame.items[1].material.diffuse = colors::systemRed;
+    EXPECT_TRUE(follow().looks);
+}
+
+TEST_F(TrackedFrameTest, SizeCameraLightAndFloorConcernTheWholePicture) {
+    EXPECT_TRUE(tracked.follow(frame, width + 1, height).picture);
+    frame.camera.world = glm::translate(glm::mat4(1), {0, 2, 0});
+    EXPECT_TRUE(follow().picture);
+    frame.ambient = {0.1F, 0.1F, 0.1F};
+    EXPECT_TRUE(follow().picture);
+    frame.items[0].material.diffuse = colors::systemRed;
+    EXPECT_TRUE(follow().picture);
+    frame.spot->position.y = 11;
+    EXPECT_TRUE(follow().shadowMap);
+    frame.items.erase(frame.items.begin());
+    EXPECT_TRUE(follow().picture);
+    EXPECT_TRUE(follow().nothing());
+}
+
+TEST_F(TrackedFrameTest, OpaqueBoxHidesTheFloorBelowIt) {
+    EXPECT_FALSE(tracked.hidesFloor({290, 50, 310, 60}));
+    const glm::mat4 place = glm::translate(glm::mat4(1), {0, 0.05F, -5});
+    frame.items.push_back({&nodes[3], Box{1, 1, 1}, {}, glm::scale(place, {4, 0.1F, 9}), 1});
+    follow();
+    EXPECT_TRUE(tracked.hidesFloor({290, 50, 310, 60}));
+    EXPECT_FALSE(tracked.hidesFloor({0, 150, 600, 160})) << "beside it";
+    frame.items.back().opacity = 0.5F;
+    follow();
+    EXPECT_FALSE(tracked.hidesFloor({290, 50, 310, 60}));
+}
+
+} // namespace
+} // namespace vorbel
