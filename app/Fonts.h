@@ -1,0 +1,23 @@
+// The fonts that show each script.
+#pragma once
+
+#include "l10n/AppLanguage.h"
+
+#include <QString>
+
+namespace vorbel {
+
+// The family for texts in the language. Chinese, Japanese and Korean share characters whose shapes differ, so
+// each has its own; Arabic, Devanagari and Thai come in the cuts for interfaces, whose lines are no higher
+// than those of other scripts. What a family lacks comes from "Noto Sans", then from "Noto Color Emoji".
+[[nodiscard]] QString fontFamily(AppLanguage language);
+
+// Makes the substitutes known and the default font "Noto Sans". Call once, after the application object is
+// made.
+void prepareFonts();
+
+[[nodiscard]] constexpr bool isRightToLeft(AppLanguage language) {
+    return language == AppLanguage::ar;
+}
+
+} // namespace vorbel

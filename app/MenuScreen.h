@@ -1,0 +1,11 @@
+// The screens of the menu overlay.
+#pragma once
+
+#include <cstdint>
+
+namespace vorbel {
+
+// `hidden`: no menu is open and the match has the keyboard.
+enum class MenuScreen : std::uint8_t { main, country, bcClass, rules, about, diary, matchResult, hidden };
+
+} // namespace vorbel

@@ -1,0 +1,10 @@
+// A sport class.
+import QtQuick
+import Vorbel
+
+ChoiceButton {
+    implicitWidth: 60
+    padding: 8
+    font.pixelSize: Theme.headline
+    font.bold: true
+}

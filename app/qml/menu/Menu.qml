@@ -1,0 +1,71 @@
+// The menu over arena and display. A screen is made when it is opened: there are one or none of each.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vorbel
+
+FocusScope {
+    id: overlay
+
+    required property MenuModel menu
+
+    visible: menu.open
+    LayoutMirroring.enabled: menu.rightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Repeater {
+        model: overlay.menu.screen === MenuModel.Main ? 1 : 0
+
+        MainScreen {
+            anchors.fill: parent
+            menu: overlay.menu
+        }
+    }
+    Repeater {
+        model: overlay.menu.screen === MenuModel.Country ? 1 : 0
+
+        CountryScreen {
+            anchors.fill: parent
+            menu: overlay.menu
+        }
+    }
+    Repeater {
+        model: overlay.menu.screen === MenuModel.BcClass ? 1 : 0
+
+        ClassScreen {
+            anchors.fill: parent
+            menu: overlay.menu
+        }
+    }
+    Repeater {
+        model: overlay.menu.screen === MenuModel.Rules ? 1 : 0
+
+        RulesScreen {
+            anchors.fill: parent
+            menu: overlay.menu
+        }
+    }
+    Repeater {
+        model: overlay.menu.screen === MenuModel.About ? 1 : 0
+
+        AboutScreen {
+            anchors.fill: parent
+            menu: overlay.menu
+        }
+    }
+    Repeater {
+        model: overlay.menu.screen === MenuModel.Diary ? 1 : 0
+
+        DiaryScreen {
+            anchors.fill: parent
+            menu: overlay.menu
+        }
+    }
+    Repeater {
+        model: overlay.menu.screen === MenuModel.MatchResult ? 1 : 0
+
+        ResultScreen {
+            anchors.fill: parent
+            menu: overlay.menu
+        }
+    }
+}

@@ -1,0 +1,33 @@
+// The dark ground of every screen of the menu, with the screen's content in its middle. What lies under it gets no
+// mouse; the keyboard is with the screen, at first with the control to go on with.
+import QtQuick
+import QtQuick.Layouts
+import Vorbel
+
+FocusScope {
+    id: backdrop
+
+    default property alias content: column.data
+    property alias spacing: column.spacing
+    readonly property real availableWidth: width - 2 * Theme.margin
+    readonly property real availableHeight: height - 2 * Theme.margin
+
+    Component.onCompleted: forceActiveFocus(Qt.TabFocusReason)
+
+    Rectangle {
+        anchors.fill: parent
+        color: Qt.rgba(0, 0, 0, 0.9)
+    }
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
+        Accessible.ignored: true
+        onWheel: wheel => wheel.accepted = true
+    }
+    ColumnLayout {
+        id: column
+        anchors.centerIn: parent
+        spacing: Theme.padding
+    }
+}

@@ -1,0 +1,54 @@
+// A menu of the menu bar. While it is open it has the keyboard, and the game's keys rest.
+import QtQuick
+import QtQuick.Templates as T
+import Vorbel
+
+T.Menu {
+    id: control
+
+    required property bool mirroredLayout
+
+    readonly property real widest: { // of its items
+        let width = 0;
+        for (let i = 0; i < count; ++i)
+            width = Math.max(width, itemAt(i).implicitWidth);
+        return width;
+    }
+
+    signal leftWithEscape()
+
+    // With the first item chosen, as a menu opened without the mouse should be.
+    function openFromKeyboard() {
+        open();
+        currentIndex = 0;
+    }
+
+    implicitWidth: Math.max(220, widest + leftPadding + rightPadding)
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    margins: 0
+    padding: 6
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        model: control.contentModel
+        currentIndex: control.currentIndex
+        interactive: false
+        LayoutMirroring.enabled: control.mirroredLayout
+        LayoutMirroring.childrenInherit: true
+
+        Shortcut {
+            sequence: "Escape"
+            enabled: control.visible
+            autoRepeat: false
+            onActivated: {
+                control.close();
+                control.leftWithEscape();
+            }
+        }
+    }
+    background: Rectangle {
+        color: Theme.menu
+        radius: Theme.buttonRadius
+        border.color: Theme.white(0.2)
+    }
+}

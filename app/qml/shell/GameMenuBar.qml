@@ -1,0 +1,97 @@
+// The menu bar with the one game menu. In full screen it is hidden, and slides in when the pointer touches the upper
+// edge or F10 opens the menu.
+import QtQuick
+import QtQuick.Templates as T
+import Vorbel
+
+Item {
+    id: edge
+
+    required property VorbelApp shell
+
+    readonly property bool revealed: !shell.inFullScreen || hover.hovered || gameMenu.visible
+    readonly property real coveredHeight: bar.y + bar.height // of the window
+
+    height: revealed ? bar.height : 2
+    LayoutMirroring.enabled: shell.rightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    // A title that is destroyed with its bar crashes the program while assistive technology looks on.
+    Component.onDestruction: bar.takeMenu(0)
+
+    HoverHandler {
+        id: hover
+    }
+    T.MenuBar {
+        id: bar
+
+        y: edge.revealed ? 0 : -height
+        width: edge.width
+        height: contentItem.implicitHeight
+        font.family: Theme.fontFamily
+        visible: coveredHeight > 0
+        focusPolicy: Qt.NoFocus // F10 leads here, Tab stays with the game
+
+        readonly property real coveredHeight: y + height
+
+        Behavior on y {
+            NumberAnimation { duration: 150; easing.type: Easing.OutCubic }
+        }
+        contentItem: Row {
+            Repeater {
+                model: bar.contentModel
+            }
+        }
+        background: Rectangle {
+            color: Theme.bar
+        }
+        delegate: MenuTitle {}
+
+        DropDownMenu {
+            id: gameMenu
+
+            title: edge.shell.gameMenuTitle
+            font.family: Theme.fontFamily
+            mirroredLayout: edge.shell.rightToLeft
+            onLeftWithEscape: edge.shell.toggleFullScreenEmulation(true)
+
+            CommandItem {
+                text: edge.shell.startGameTitle
+                keys: newGameKey.nativeText
+                onTriggered: edge.shell.requestNewGame()
+            }
+            Divider {}
+            CommandItem {
+                text: edge.shell.rulesTitle
+                onTriggered: edge.shell.requestRules()
+            }
+            CommandItem {
+                text: edge.shell.aboutTitle
+                onTriggered: edge.shell.requestAbout()
+            }
+            Divider {}
+            CommandItem {
+                text: edge.shell.toggleFullScreenTitle
+                keys: edge.shell.fullScreenKeys[0]
+                onTriggered: edge.shell.toggleFullScreenEmulation(false)
+            }
+        }
+    }
+
+    Shortcut {
+        id: newGameKey
+        sequence: "Ctrl+N"
+        autoRepeat: false
+        onActivated: edge.shell.requestNewGame()
+    }
+    Shortcut {
+        sequences: edge.shell.fullScreenKeys
+        autoRepeat: false
+        onActivated: edge.shell.toggleFullScreenEmulation(false)
+    }
+    Shortcut {
+        sequence: "F10"
+        autoRepeat: false
+        onActivated: gameMenu.openFromKeyboard()
+    }
+}

@@ -1,0 +1,82 @@
+// How fast the arena is drawn. Prints one table; needs a display, a virtual one will do.
+#include "app/Display.h"
+#include "bench/render/Figures.h"
+#include "bench/render/window_bench.h"
+#include "platform/render/Renderer.h"
+#include "platform/resources/Resources.h"
+#include "tests/picture/OffscreenTarget.h"
+#include "tests/picture/RollingBalls.h"
+
+#include <QGuiApplication>
+#include <sys/resource.h>
+
+namespace vorbel::bench {
+
+namespace {
+
+constexpr int width = 1200;
+constexpr int height = 800;
+constexpr int ticks = 150;
+constexpr int ticksBetweenFullRedraws = 10;
+
+Moment timedDraw(Renderer& renderer, const Frame& frame, OffscreenTarget& target) {
+    const Moment start = Moment::now();
+    renderer.draw(frame, target.framebuffer(), width, height);
+    target.finish();
+    return Moment::now() - start;
+}
+
+bool measureDrawing(const Resources& resources) {
+    OffscreenTarget target(width, height);
+    std::string error = "OpenGL is not available.";
+    const auto changes = target.works() ? Renderer::create(resources, error) : nullptr;
+    const auto all = changes ? Renderer::create(resources, error, Redraw::all) : nullptr;
+    if (!all) {
+        std::fprintf(stderr, "vorbel-bench: %s\n", error.c_str());
+        return false;
+    }
+    RollingBalls arena;
+    printRow("first picture, pictures read and sent", timedDraw(*changes, arena.frame(1), target).wall, "ms");
+    timedDraw(*all, arena.frame(1), target);
+    Timings changed;
+    Timings redrawn;
+    Timings unchanged;
+    for (int tick = 0; tick < ticks; ++tick) {
+        arena.step();
+        changed.add(timedDraw(*changes, arena.frame(0.5), target));
+        if (tick % ticksBetweenFullRedraws == 0) {
+            redrawn.add(timedDraw(*all, arena.frame(0.5), target));
+            unchanged.add(timedDraw(*changes, arena.frame(0.5), target));
+        }
+    }
+    printRow("13 balls rolling, full redraw", redrawn.wall(), "ms");
+    printRow("    processor time", redrawn.cpu(), "ms");
+    printRow("13 balls rolling, what changed", changed.wall(), "ms");
+    printRow("    processor time", changed.cpu(), "ms");
+    printRow("    ratio of the times", redrawn.wall() / changed.wall(), "");
+    printRow("    ratio of the processor times", redrawn.cpu() / changed.cpu(), "");
+    printRow("nothing moved, shown again", unchanged.wall(), "ms");
+    return true;
+}
+
+int measure(int argc, char** argv, double startedAt) {
+    const QGuiApplication application(argc, argv);
+    chooseGraphics();
+    const Resources resources = Resources::forProgram(QCoreApplication::applicationFilePath().toStdString());
+    const int status = measureWindow(resources, startedAt);
+    if (status != 0 || !measureDrawing(resources)) {
+        return 1;
+    }
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    printRow("peak memory of this program", static_cast<double>(usage.ru_maxrss) / 1024, "MiB");
+    return 0;
+}
+
+} // namespace
+
+} // namespace vorbel::bench
+
+int main(int argc, char** argv) {
+    return vorbel::bench::measure(argc, argv, vorbel::bench::Moment::now().wall);
+}

@@ -1,0 +1,163 @@
+#include "bench/render/window_bench.h"
+
+#include "app/ContentView.h"
+#include "app/Display.h"
+#include "bench/render/Figures.h"
+#include "platform/runloop/QtMainQueue.h"
+#include "platform/store/MemoryDefaults.h"
+#include "scene/Ball.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QTimer>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(VorbelPlugin)
+
+namespace vorbel::bench {
+
+namespace {
+
+constexpr int shownFor = 5000; // ms, each part
+constexpr int ballCount = 13;
+constexpr double againAfter = 2500; // ms: until then all balls roll
+
+constexpr const char* windowText = R"(
+import QtQuick
+import Vorbel
+Window {
+    id: window
+    required property ContentView view
+    visible: true; width: 1200; height: 800; color: "#0d0d14"
+    SceneView { objectName: "arena"; anchors.fill: parent; view: window.view }
+    Hud { anchors.fill: parent; view: window.view }
+}
+)";
+
+// Lets the application run; returns how often the window has shown a picture.
+int run(QQuickWindow& window, bool asFastAsPossible, const std::function<void()>& meanwhile) {
+    int frames = 0;
+    QObject context;
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &context, [&] {
+        ++frames;
+        if (asFastAsPossible) {
+            window.update();
+        }
+    });
+    if (asFastAsPossible) {
+        window.update();
+    }
+    QTimer often;
+    QObject::connect(&often, &QTimer::timeout, &context, meanwhile);
+    often.start(250);
+    QEventLoop loop;
+    QTimer::singleShot(shownFor, &loop, &QEventLoop::quit);
+    loop.exec();
+    return frames;
+}
+
+class Rolling {
+public:
+    explicit Rolling(Scene& scene) : scene_(scene) {
+        for (int i = 0; i < ballCount; ++i) {
+            balls_.push_back(
+                makeBall(i % 2 == 0 ? BallColor::blue : BallColor::red, {}, PhysicsBody::Type::dynamic));
+            balls_.back()->name.clear(); // not balls of the match
+            scene_.root->addChild(balls_.back());
+        }
+        throwAll();
+    }
+    ~Rolling() {
+        for (const Node::Ptr& ball : balls_) {
+            scene_.root->removeChild(*ball);
+        }
+    }
+    void keepRolling() {
+        if (static_cast<double>(clock_.elapsed()) > againAfter) {
+            throwAll();
+        }
+    }
+
+private:
+    void throwAll() {
+        clock_.start();
+        for (int i = 0; i < ballCount; ++i) {
+            const Node::Ptr& ball = balls_[static_cast<std::size_t>(i)];
+            const int column = i - ballCount / 2;
+            ball->setPosition({0.3 * column, restingHeight, -0.5});
+            ball->body->velocity = {-0.04 * column, 0, -2.2 - 0.25 * ((5 * i) % ballCount)};
+            ball->body->angularVelocity = {ball->body->velocity.z / ballRadius, 0, 0};
+        }
+    }
+
+    Scene& scene_;
+    std::vector<Node::Ptr> balls_;
+    QElapsedTimer clock_;
+};
+
+void printFrames(const char* what, int frames, const Moment& spent) {
+    printRow(what, 1000 * frames / spent.wall, "frames/s");
+    printRow("    processor time a frame", spent.cpu / std::max(frames, 1), "ms");
+}
+
+} // namespace
+
+int measureWindow(const Resources& resources, double startedAt) {
+    QtMainQueue queue;
+    SeededRandom random(1);
+    SilentAudio audio;
+    MemoryDefaults defaults;
+    ContentView view({queue, random, audio, resources}, defaults);
+    QQmlApplicationEngine engine;
+    engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)}});
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.loadData(windowText);
+    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
+    if (window == nullptr) {
+        return 1;
+    }
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, window,
+        [startedAt] {
+            printRow("start of this program to its first frame", Moment::now().wall - startedAt, "ms");
+        },
+        static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::SingleShotConnection));
+    view.setMenuScreen(MenuScreen::hidden);
+    view.appear();
+    run(*window, false, [] {});
+
+    Moment start = Moment::now();
+    int frames = run(*window, false, [] {});
+    Moment spent = Moment::now() - start;
+    printRow("waiting for the player: share of one core", 100 * spent.cpu / spent.wall, "%");
+    printRow("    pictures meanwhile", frames, "");
+
+    {
+        Rolling rolling(view.gameLogic().scene);
+        start = Moment::now();
+        frames = run(*window, true, [&] { rolling.keepRolling(); });
+        printFrames("window, 13 balls rolling", frames, Moment::now() - start);
+    }
+    std::vector<double> switches;
+    for (const AppLanguage language : {AppLanguage::de, AppLanguage::en, AppLanguage::ja, AppLanguage::en}) {
+        start = Moment::now();
+        view.setSelectedLanguage(language);
+        QEventLoop untilShown;
+        QObject::connect(window, &QQuickWindow::frameSwapped, &untilShown, &QEventLoop::quit,
+                         Qt::QueuedConnection);
+        untilShown.exec();
+        switches.push_back((Moment::now() - start).wall);
+    }
+    printRow("language switch, until it is shown", median(switches), "ms");
+
+    QObject::disconnect(window, nullptr, window->findChild<QObject*>(QStringLiteral("arena")), nullptr);
+    start = Moment::now();
+    frames = run(*window, true, [] {});
+    printFrames("window with nothing but the display of the score", frames, Moment::now() - start);
+    return 0;
+}
+
+} // namespace vorbel::bench

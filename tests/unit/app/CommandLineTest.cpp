@@ -1,0 +1,75 @@
+#include "app/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <vector>
+
+namespace vorbel {
+
+namespace {
+
+using Action = CommandLine::Action;
+
+CommandLine parse(std::vector<std::string> arguments) {
+    std::vector<char*> pointers;
+    for (std::string& argument : arguments) {
+        pointers.push_back(argument.data());
+    }
+    return CommandLine::parse(pointers);
+}
+
+double speedFor(const char* value) {
+    setenv("VORBEL_SPEED", value, 1);
+    const double speed = speedFromEnvironment();
+    unsetenv("VORBEL_SPEED");
+    return speed;
+}
+
+} // namespace
+
+TEST(CommandLineTest, PlaysWithoutOptions) {
+    EXPECT_EQ(parse({}).action, Action::play);
+}
+
+TEST(CommandLineTest, KnowsItsOptions) {
+    EXPECT_EQ(parse({"--help"}).action, Action::showHelp);
+    EXPECT_EQ(parse({"--version"}).action, Action::showVersion);
+    EXPECT_EQ(parse({"--demo"}).action, Action::demonstrate);
+    EXPECT_EQ(parse({"--demo", "--screenshots", "pictures"}).screenshotsFolder, "pictures");
+    EXPECT_EQ(parse({"--screenshot", "arena.png"}).action, Action::takeScreenshot);
+    EXPECT_EQ(parse({"--screenshot", "arena.png"}).screenshot, "arena.png");
+}
+
+TEST(CommandLineTest, ComplainsInOneLineAboutWhatItDoesNotUnderstand) {
+    for (const auto& arguments : std::vector<std::vector<std::string>>{{"--bogus"},
+                                                                       {"extra"},
+                                                                       {"--demo", "-x"},
+                                                                       {"--screenshot"},
+                                                                       {"--demo", "--screenshots"},
+                                                                       {"--screenshots", "folder"},
+                                                                       {""}}) {
+        const CommandLine commandLine = parse(arguments);
+        EXPECT_EQ(commandLine.action, Action::complain) << arguments[0];
+        EXPECT_FALSE(commandLine.complaint.empty());
+        EXPECT_EQ(commandLine.complaint.find('\n'), std::string::npos);
+    }
+}
+
+TEST(CommandLineTest, HelpNamesEveryOption) {
+    const std::string help = CommandLine::helpText();
+    for (const char* option :
+         {"--help", "--version", "--demo", "--screenshots", "--screenshot FILE", "VORBEL_SPEED"}) {
+        EXPECT_NE(help.find(option), std::string::npos) << option;
+    }
+}
+
+TEST(CommandLineTest, ASpeedThatIsNoSensibleNumberIsIgnored) {
+    EXPECT_EQ(speedFor("8"), 8);
+    EXPECT_EQ(speedFor("0.5"), 0.5);
+    for (const char* nonsense : {"", "fast", "8x", "0", "-3", "1000", "nan"}) {
+        EXPECT_EQ(speedFor(nonsense), 1) << nonsense;
+    }
+}
+
+} // namespace vorbel

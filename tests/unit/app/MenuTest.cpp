@@ -1,0 +1,244 @@
+// What each control of the menu does, and where it leads.
+#include "app/Texts.h"
+#include "career/Diary.h"
+#include "tests/unit/app/ViewFixture.h"
+
+namespace vorbel {
+
+class MenuTest : public ViewTest {
+protected:
+    MenuModel& menu = *view.menu();
+
+    // Presses through the screens to the start of play.
+    void startSingleMatch() {
+        menu.startGame();
+        menu.chooseClass();
+        menu.play();
+    }
+    void startTournament(Country country) {
+        menu.startTournament();
+        view.setSelectedCountry(country);
+        menu.chooseClass();
+        menu.play();
+    }
+    void speak(AppLanguage language) {
+        view.setSelectedLanguage(language);
+        letQueueRun();
+        letQueueRun(); // the language first, then what follows from it
+    }
+};
+
+TEST_F(MenuTest, TheGameStartsWithTheMainMenu) {
+    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    EXPECT_TRUE(menu.isOpen());
+    EXPECT_EQ(menu.screen(), MenuModel::Screen::Main);
+}
+
+TEST_F(MenuTest, EveryScreenHasItsPlaceInTheListOfScreens) {
+    for (const auto& [screen, shown] : {std::pair{MenuScreen::main, MenuModel::Screen::Main},
+                                        {MenuScreen::country, MenuModel::Screen::Country},
+                                        {MenuScreen::bcClass, MenuModel::Screen::BcClass},
+                                        {MenuScreen::rules, MenuModel::Screen::Rules},
+                                        {MenuScreen::about, MenuModel::Screen::About},
+                                        {MenuScreen::diary, MenuModel::Screen::Diary},
+                                        {MenuScreen::matchResult, MenuModel::Screen::MatchResult},
+                                        {MenuScreen::hidden, MenuModel::Screen::Hidden}}) {
+        view.setMenuScreen(screen);
+        EXPECT_EQ(menu.screen(), shown);
+        EXPECT_EQ(menu.isOpen(), screen != MenuScreen::hidden);
+    }
+}
+
+TEST_F(MenuTest, StartingAGameOrATournamentAsksForTheCountryFirst) {
+    menu.startGame();
+    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
+    EXPECT_FALSE(view.startingTournament());
+    menu.back();
+    menu.startTournament();
+    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
+    EXPECT_TRUE(view.startingTournament());
+    menu.back();
+    menu.startGame();
+    EXPECT_FALSE(view.startingTournament());
+}
+
+TEST_F(MenuTest, TheMainMenuLeadsToDiaryRulesAndAbout) {
+    menu.openDiary();
+    EXPECT_EQ(view.menuScreen(), MenuScreen::diary);
+    menu.openRules();
+    EXPECT_EQ(view.menuScreen(), MenuScreen::rules);
+    menu.openAbout();
+    EXPECT_EQ(view.menuScreen(), MenuScreen::about);
+}
+
+TEST_F(MenuTest, BackLeadsToTheMainMenuFromEveryScreen) {
+    for (const MenuScreen screen : {MenuScreen::country, MenuScreen::bcClass, MenuScreen::rules,
+                                    MenuScreen::about, MenuScreen::diary}) {
+        view.setMenuScreen(screen);
+        menu.back();
+        EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    }
+}
+
+TEST_F(MenuTest, BackFromTheClassScreenKeepsTheChosenCountry) {
+    menu.startGame();
+    view.setSelectedCountry(Country::japan);
+    menu.chooseClass();
+    menu.back();
+    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(view.selectedCountry(), Country::japan);
+}
+
+TEST_F(MenuTest, ChoosingACountryOrAClassKeepsTheScreenAndTheMatch) {
+    menu.startGame();
+    menu.choices()->setCountryIndex(static_cast<int>(Country::peru));
+    letQueueRun();
+    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
+    EXPECT_EQ(view.selectedCountry(), Country::peru);
+    EXPECT_EQ(match.playerCountry, Country::france);
+    menu.chooseClass();
+    menu.choices()->setClassIndex(0);
+    letQueueRun();
+    EXPECT_EQ(view.menuScreen(), MenuScreen::bcClass);
+    EXPECT_EQ(view.selectedClass(), BocciaClass::bc1);
+    EXPECT_EQ(match.playerClass, BocciaClass::bc2);
+}
+
+TEST_F(MenuTest, PlayGivesTheMatchAllChoicesAtOnceAndHidesTheMenu) {
+    view.setSelectedLanguage(AppLanguage::fr);
+    menu.startGame();
+    view.setSelectedCountry(Country::peru);
+    menu.chooseClass();
+    view.setSelectedClass(BocciaClass::bc3);
+    menu.play();
+    EXPECT_EQ(match.playerClass, BocciaClass::bc3);
+    EXPECT_EQ(match.playerCountry, Country::peru);
+    EXPECT_EQ(match.language, AppLanguage::fr);
+    EXPECT_EQ(view.menuScreen(), MenuScreen::hidden);
+}
+
+TEST_F(MenuTest, ASingleMatchBeginsWithTheFirstMessageInThePlayersLanguage) {
+    view.setSelectedLanguage(AppLanguage::en);
+    startSingleMatch();
+    EXPECT_EQ(match.message.get(), "Press [SPACE] to start aiming");
+    EXPECT_FALSE(match.tournamentActive);
+}
+
+TEST_F(MenuTest, InRussianTheMessageOfTheMatchStaysAsItIs) {
+    match.message = "Шар в игре...";
+    startSingleMatch();
+    EXPECT_EQ(match.message.get(), "Шар в игре...");
+}
+
+TEST_F(MenuTest, ASingleMatchResetsNothing) {
+    match.redScore = 3;
+    match.currentEnd = 2;
+    match.tournamentActive = true;
+    view.setSelectedLanguage(AppLanguage::en);
+    startSingleMatch();
+    EXPECT_EQ(match.redScore, 3);
+    EXPECT_EQ(match.currentEnd, 2);
+    EXPECT_TRUE(match.tournamentActive);
+}
+
+TEST_F(MenuTest, ATournamentIsPlayedByTheHumanInRedAgainstTheComputer) {
+    view.setRedAIOn(true);
+    view.setSelectedLanguage(AppLanguage::en);
+    letQueueRun();
+    startTournament(Country::russia);
+    EXPECT_FALSE(view.redAIOn());
+    EXPECT_TRUE(view.blueAIOn());
+    EXPECT_FALSE(match.redIsAI);
+    EXPECT_TRUE(match.blueIsAI);
+    EXPECT_TRUE(match.tournamentActive);
+    EXPECT_EQ(match.tournamentRound, 1);
+    EXPECT_EQ(match.aiDifficulty, AIDifficulty::easy);
+    EXPECT_EQ(match.playerCountry, Country::russia);
+    EXPECT_EQ(view.menuScreen(), MenuScreen::hidden);
+    letQueueRun();
+    EXPECT_FALSE(match.redIsAI);
+    EXPECT_TRUE(match.blueIsAI);
+}
+
+TEST_F(MenuTest, TheOpponentThatATournamentAnnouncesIsTheOneThatPlays) {
+    view.setSelectedLanguage(AppLanguage::en);
+    startTournament(Country::france);
+    const Country announced = match.blueCountry;
+    letQueueRun();
+    EXPECT_EQ(match.blueCountry, announced);
+    EXPECT_NE(match.message.get().find(L10n::t(key(announced), AppLanguage::en)), std::string::npos);
+}
+
+TEST_F(MenuTest, ChoicesLastUntilTheProgramEnds) {
+    menu.startGame();
+    view.setSelectedCountry(Country::egypt);
+    view.setSelectedClass(BocciaClass::bc1);
+    menu.chooseClass();
+    menu.play();
+    finishMatch(1, 0);
+    menu.goOn();
+    EXPECT_EQ(view.selectedCountry(), Country::egypt);
+    EXPECT_EQ(view.selectedClass(), BocciaClass::bc1);
+    const ContentView next(platform.services(), defaults);
+    EXPECT_EQ(next.selectedCountry(), Country::france);
+}
+
+TEST_F(MenuTest, WithoutALogoThereIsNoPictureToLoad) {
+    EXPECT_TRUE(menu.logo().isEmpty());
+}
+
+TEST_F(MenuTest, PlacesOutsideAListAreIgnored) {
+    for (const int nowhere : {-1, 37, 1000}) {
+        menu.choices()->setLanguageIndex(nowhere);
+        menu.choices()->setCountryIndex(nowhere);
+        menu.choices()->setClassIndex(nowhere);
+    }
+    EXPECT_EQ(view.selectedLanguage(), AppLanguage::ru);
+    EXPECT_EQ(view.selectedCountry(), Country::france);
+    EXPECT_EQ(view.selectedClass(), BocciaClass::bc4);
+}
+
+TEST_F(MenuTest, TheListsHoldAllLanguagesCountriesAndClassesInTheirOrder) {
+    const MenuChoices& choices = *menu.choices();
+    speak(AppLanguage::en);
+    EXPECT_EQ(choices.languages().size(), 20);
+    EXPECT_EQ(choices.languages().first(), QStringLiteral("Русский"));
+    EXPECT_EQ(choices.languages().last(), QStringLiteral("Ελληνικά"));
+    EXPECT_EQ(choices.countries().size(), 37);
+    EXPECT_EQ(choices.countries().first(), QStringLiteral("Belgium"));
+    EXPECT_EQ(choices.countries().last(), QStringLiteral("Russia"));
+    EXPECT_EQ(choices.flags().first(), QStringLiteral("🇧🇪"));
+    EXPECT_EQ(choices.sportClasses(), QStringList({QStringLiteral("BC1"), QStringLiteral("BC2"),
+                                                   QStringLiteral("BC3"), QStringLiteral("BC4")}));
+}
+
+TEST_F(MenuTest, TheClassIsDescribedInThePlayersLanguage) {
+    menu.choices()->setClassIndex(1);
+    menu.choices()->setLanguageIndex(static_cast<int>(AppLanguage::de));
+    EXPECT_EQ(menu.choices()->classDescription(), text("bc.desc.bc2", AppLanguage::de));
+    menu.choices()->setClassIndex(2);
+    EXPECT_EQ(menu.choices()->classDescription(), text("bc.desc.bc3", AppLanguage::de));
+}
+
+TEST_F(MenuTest, AllTextsFollowTheLanguageAtOnce) {
+    int changes = 0;
+    QObject::connect(menu.texts(), &MenuTexts::changed, &view, [&changes] { ++changes; });
+    menu.choices()->setLanguageIndex(static_cast<int>(AppLanguage::de));
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(menu.texts()->startGame(), text("menu.startGame", AppLanguage::de));
+    EXPECT_EQ(menu.texts()->rulesText(), text("rules.text", AppLanguage::de));
+    EXPECT_EQ(menu.choices()->countries().first(), text("country.belgium", AppLanguage::de));
+    EXPECT_EQ(menu.choices()->languageIndex(), static_cast<int>(AppLanguage::de));
+    EXPECT_FALSE(menu.rightToLeft());
+    menu.choices()->setLanguageIndex(static_cast<int>(AppLanguage::ar));
+    EXPECT_TRUE(menu.rightToLeft());
+}
+
+TEST_F(MenuTest, AnArabicTextThatBeginsWithALatinNameIsStillLaidOutFromTheRight) {
+    view.setSelectedLanguage(AppLanguage::ar);
+    EXPECT_FALSE(text("about.text", AppLanguage::ar).isRightToLeft());
+    EXPECT_TRUE(menu.texts()->aboutText().isRightToLeft());
+    EXPECT_EQ(menu.texts()->rulesText(), text("rules.text", AppLanguage::ar));
+}
+
+} // namespace vorbel

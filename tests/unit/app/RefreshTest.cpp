@@ -1,0 +1,83 @@
+#include "tests/unit/app/ViewFixture.h"
+
+namespace vorbel {
+
+class RefreshTest : public ViewTest {
+protected:
+    int refreshes = 0;
+
+    RefreshTest() {
+        QObject::connect(&view, &ContentView::refreshed, &view, [this] { ++refreshes; });
+    }
+};
+
+TEST_F(RefreshTest, ABurstOfChangesIsShownOnce) {
+    match.message = "a";
+    match.redScore = 2;
+    match.message = "b";
+    EXPECT_EQ(refreshes, 0);
+    letQueueRun();
+    EXPECT_EQ(refreshes, 1);
+    EXPECT_EQ(view.hud()->message(), QStringLiteral("b"));
+    EXPECT_EQ(view.hud()->redScore(), 2);
+}
+
+TEST_F(RefreshTest, ChangesWaitWhileAPictureIsBeingDrawn) {
+    view.holdRefreshes();
+    match.redScore = 1;
+    letQueueRun();
+    match.redScore = 2;
+    letQueueRun();
+    EXPECT_EQ(refreshes, 0);
+    view.releaseRefreshes();
+    EXPECT_EQ(refreshes, 1);
+    EXPECT_EQ(view.hud()->redScore(), 2);
+    match.redScore = 3;
+    letQueueRun();
+    EXPECT_EQ(view.hud()->redScore(), 3);
+}
+
+TEST_F(RefreshTest, APictureThatBeginsAfterTheChangeHoldsItBackToo) {
+    match.redScore = 1;
+    view.holdRefreshes();
+    letQueueRun();
+    EXPECT_EQ(refreshes, 0);
+    view.releaseRefreshes();
+    EXPECT_EQ(view.hud()->redScore(), 1);
+}
+
+TEST_F(RefreshTest, TheViewTicksWithTheMatch) {
+    int ticks = 0;
+    QObject::connect(&view, &ContentView::ticked, &view, [&ticks] { ++ticks; });
+    view.appear();
+    platform.queue.advance(1);
+    EXPECT_EQ(ticks, 50);
+}
+
+TEST_F(RefreshTest, ThePointerTurnsToTheAimWithinATenthOfASecond) {
+    view.appear();
+    hideMenu();
+    view.pressAction();
+    view.pressRight();
+    view.pressUp();
+    const Quat target = rotationFromEuler({0.05, -0.05, 0});
+    const auto distanceToTarget = [this, &target] {
+        return 1 - std::abs(glm::dot(pointerOrientation(), target));
+    };
+    const double atFirst = distanceToTarget();
+    platform.queue.advance(0.05);
+    const double halfWay = distanceToTarget();
+    platform.queue.advance(0.08);
+    EXPECT_GT(atFirst, halfWay);
+    EXPECT_GT(halfWay, 1e-6);
+    EXPECT_NEAR(distanceToTarget(), 0, 1e-12);
+}
+
+TEST_F(RefreshTest, WithoutAPointerNothingIsAnimatedAndNothingFails) {
+    match.scene.root->removeChild(*match.scene.root->findChild("pointer"));
+    match.aimAngle = 0.3;
+    letQueueRun();
+    EXPECT_EQ(refreshes, 1);
+}
+
+} // namespace vorbel
