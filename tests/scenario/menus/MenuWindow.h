@@ -1,0 +1,69 @@
+// The game's real window with its menu, in this process, on a clock that moves only when told to.
+#pragma once
+
+#include "app/ContentView.h"
+#include "app/VorbelApp.h"
+#include "app/shell/NotificationCenter.h"
+#include "platform/HeadlessPlatform.h"
+#include "platform/store/MemoryDefaults.h"
+
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include <string>
+#include <vector>
+
+namespace vorbel {
+
+class MenuWindow {
+public:
+    explicit MenuWindow(const Resources& resources);
+
+    [[nodiscard]] ContentView& view() { return view_; }
+    [[nodiscard]] MemoryDefaults& defaults() { return defaults_; }
+    [[nodiscard]] QQuickWindow& window() { return *window_; }
+    [[nodiscard]] QQuickItem& menu() const; // the overlay
+
+    [[nodiscard]] QStringList complaints() const { return complaints_; } // of the QML engine
+
+    void setLanguage(AppLanguage language);
+    void open(MenuScreen screen);
+    void settle();                                           // lets everything that is due happen
+    void press(Qt::Key key, int times = 1);                  // in the window
+    [[nodiscard]] QImage picture();                          // of the window
+    void layOut() { static_cast<void>(picture()); }          // places are right only after drawing
+    [[nodiscard]] QQuickItem* focus() const;                 // the control that has the keyboard
+    [[nodiscard]] QString focusedText() const;               // of that control
+    [[nodiscard]] std::vector<QQuickItem*> controls() const; // buttons, switches and links of the open screen
+
+private:
+    HeadlessPlatform platform_{1};
+    MemoryDefaults defaults_;
+    NotificationCenter notifications_;
+    ContentView view_;
+    VorbelApp shell_{view_, notifications_};
+    QQmlApplicationEngine engine_;
+    QQuickWindow* window_ = nullptr;
+    QStringList complaints_;
+};
+
+// The visible items below one, itself included, that the predicate holds for; parents before children.
+template <typename Predicate>
+void collect(QQuickItem& item, Predicate wanted, std::vector<QQuickItem*>& found) {
+    if (!item.isVisible()) {
+        return;
+    }
+    if (wanted(item)) {
+        found.push_back(&item);
+    }
+    for (QQuickItem* child : item.childItems()) {
+        collect(*child, wanted, found);
+    }
+}
+
+[[nodiscard]] bool isOfType(const QQuickItem& item,
+                            const char* className); // its own type or one it derives from
+
+} // namespace vorbel

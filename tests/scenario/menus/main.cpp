@@ -1,0 +1,16 @@
+// Tests that show the menu in a real window, on the display that they are given.
+#include "app/Display.h"
+#include "app/Fonts.h"
+
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    vorbel::prepareFonts();
+    vorbel::chooseGraphics();
+    return RUN_ALL_TESTS();
+}

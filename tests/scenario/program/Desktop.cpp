@@ -1,0 +1,70 @@
+#include "tests/scenario/program/Desktop.h"
+
+#include <QElapsedTimer>
+#include <QPixmap>
+#include <QProcess>
+#include <QScreen>
+#include <QThread>
+
+#include <cstdlib>
+
+namespace vorbel {
+
+namespace {
+
+constexpr int lookAgainAfter = 20; // ms
+
+bool runTool(const QStringList& arguments) {
+    QProcess tool;
+    tool.start(QStringLiteral("xdotool"), arguments);
+    return tool.waitForFinished(10'000) && tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
+}
+
+} // namespace
+
+Desktop& Desktop::instance() {
+    static Desktop desktop;
+    return desktop;
+}
+
+Desktop::Desktop() = default;
+
+QImage Desktop::picture() const {
+    return QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 1200, 800).toImage();
+}
+
+void Desktop::press(const QString& key) const {
+    runTool({QStringLiteral("key"), key});
+}
+
+bool Desktop::focusGame() const {
+    return runTool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
+                    QStringLiteral("--name"), QStringLiteral("^VORBEL$"), QStringLiteral("windowfocus"),
+                    QStringLiteral("--sync")});
+}
+
+void Desktop::startMatch() const {
+    for (int screen = 0; screen < 3; ++screen) {
+        press(QStringLiteral("Return"));
+    }
+}
+
+bool alike(const QColor& a, const QColor& b) {
+    constexpr int tolerance = 24; // of 255, in each channel
+    return std::abs(a.red() - b.red()) < tolerance && std::abs(a.green() - b.green()) < tolerance &&
+           std::abs(a.blue() - b.blue()) < tolerance;
+}
+
+bool waitUntil(const std::function<bool()>& condition, int milliseconds) {
+    QElapsedTimer clock;
+    clock.start();
+    while (!condition()) {
+        if (clock.elapsed() > milliseconds) {
+            return false;
+        }
+        QThread::msleep(lookAgainAfter);
+    }
+    return true;
+}
+
+} // namespace vorbel

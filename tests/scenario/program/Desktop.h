@@ -1,0 +1,45 @@
+// The display that the tests share with the program: what it shows, and its keyboard.
+#pragma once
+
+#include <QColor>
+#include <QGuiApplication>
+#include <QImage>
+#include <QString>
+
+#include <functional>
+
+namespace vorbel {
+
+class Desktop {
+public:
+    [[nodiscard]] static Desktop& instance();
+
+    // What the screen shows now where a window of the smallest size lies: in its upper left corner.
+    [[nodiscard]] QImage picture() const;
+
+    // Presses and releases a key, named as X names it ("space", "Left", "Tab"), in the window that has the
+    // focus.
+    void press(const QString& key) const;
+
+    // Waits for the game's window and gives it the keyboard. False when none appears within ten seconds.
+    [[nodiscard]] bool focusGame() const;
+
+    // From the main menu to the arena: start, this country, this class.
+    void startMatch() const;
+
+private:
+    Desktop();
+
+    int argumentCount_ = 1;
+    char name_[6] = "tests";
+    char* arguments_[2] = {name_, nullptr};
+    QGuiApplication application_{argumentCount_, arguments_};
+};
+
+// Whether two colours are the same to the eye.
+[[nodiscard]] bool alike(const QColor& a, const QColor& b);
+
+// Looks again and again until the condition holds; false when it does not within the time.
+[[nodiscard]] bool waitUntil(const std::function<bool()>& condition, int milliseconds);
+
+} // namespace vorbel
