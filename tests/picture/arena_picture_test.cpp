@@ -69,10 +69,10 @@ void expectLooksLike(const QImage& actual, const std::string& name) {
     }
 }
 
-// Spectators are blank planes here, so that a change of their pictures does not change these.
-QImage drawArena(const Scene& scene) {
+// Without resources spectators are blank planes, so that a change of their pictures changes only the stand's.
+QImage drawArena(const Scene& scene, const Resources& resources = Resources()) {
     std::string error;
-    QImage image = renderToImage(makeFrame(scene, 1), 600, 400, Resources(), error);
+    QImage image = renderToImage(makeFrame(scene, 1), 600, 400, resources, error);
     EXPECT_FALSE(image.isNull()) << error;
     return image;
 }
@@ -110,6 +110,35 @@ TEST(ArenaPicture, MiddleOfAnEnd) {
     pointer->opacity = 1;
     pointer->setEulerAngles({0, 0.2, 0});
     expectLooksLike(drawArena(scene), "middle-of-an-end");
+}
+
+// Seen from another place: a yaw of 0 looks along −z.
+Scene makeArenaSeenFrom(const Vec3& place, double yaw, double pitch) {
+    Scene scene = makeArena();
+    for (const Node::Ptr& node : scene.root->children()) {
+        if (node->camera) {
+            node->setPosition(place);
+            node->setEulerAngles({pitch, yaw, 0});
+        }
+    }
+    return scene;
+}
+
+TEST(ArenaPicture, AllFlagDesignsFromNearby) {
+    const std::array<std::pair<const char*, double>, 3> parts = {
+        {{"flags-left", -3.0}, {"flags-middle", 0.0}, {"flags-right", 3.0}}};
+    for (const auto& [name, x] : parts) {
+        expectLooksLike(drawArena(makeArenaSeenFrom({x, 1.95, -8.0}, 0, 0)), name);
+    }
+}
+
+TEST(ArenaPicture, Referee) {
+    expectLooksLike(drawArena(makeArenaSeenFrom({-2.2, 0.9, -5.6}, 1.1, -0.15)), "referee");
+}
+
+TEST(ArenaPicture, StandWithItsSpectators) {
+    const Scene scene = makeArenaSeenFrom({1.5, 1.5, -6.25}, -1.57, 0);
+    expectLooksLike(drawArena(scene, Resources({VORBEL_PICTURES})), "stand");
 }
 
 } // namespace
