@@ -29,6 +29,9 @@ SceneView::~SceneView() = default;
 
 void SceneView::setView(ContentView* view) {
     view_ = view;
+    drawing_->pictures = std::make_unique<Pictures>(view_->resources());
+    drawing_->pictures->announce(
+        makeFrame(view_->gameLogic().scene, 1)); // read while the window is being made
     connect(view_, &ContentView::ticked, this, &SceneView::matchTicked);
     connect(view_, &ContentView::refreshed, this, &SceneView::requestFrame);
     emit viewChanged();
@@ -115,7 +118,7 @@ void SceneView::drawFrame(QQuickWindow& window) {
     window.beginExternalCommands();
     if (!drawing.renderer) {
         std::string error;
-        drawing.renderer = Renderer::create(view_->resources(), error, wantedRedraw());
+        drawing.renderer = Renderer::create(*drawing.pictures, error, wantedRedraw());
         if (!drawing.renderer) {
             drawing.failed = true;
             QMetaObject::invokeMethod(this, [this, error] { report(QString::fromStdString(error)); });

@@ -3,6 +3,7 @@
 
 #include "app/ContentView.h"
 #include "app/FramePacer.h"
+#include "platform/render/Pictures.h"
 #include "platform/render/Renderer.h"
 
 #include <QElapsedTimer>
@@ -41,6 +42,7 @@ private:
     // Belongs to the render thread; the main thread has it only while that waits.
     struct Drawing {
         Frame frame;
+        std::unique_ptr<Pictures> pictures;
         std::unique_ptr<Renderer> renderer;
         bool failed = false;
     };

@@ -2,6 +2,7 @@
 #include "app/Display.h"
 #include "bench/render/Figures.h"
 #include "bench/render/window_bench.h"
+#include "platform/render/Pictures.h"
 #include "platform/render/Renderer.h"
 #include "platform/resources/Resources.h"
 #include "tests/picture/OffscreenTarget.h"
@@ -29,8 +30,9 @@ Moment timedDraw(Renderer& renderer, const Frame& frame, OffscreenTarget& target
 bool measureDrawing(const Resources& resources) {
     OffscreenTarget target(width, height);
     std::string error = "OpenGL is not available.";
-    const auto changes = target.works() ? Renderer::create(resources, error) : nullptr;
-    const auto all = changes ? Renderer::create(resources, error, Redraw::all) : nullptr;
+    Pictures pictures(resources);
+    const auto changes = target.works() ? Renderer::create(pictures, error) : nullptr;
+    const auto all = changes ? Renderer::create(pictures, error, Redraw::all) : nullptr;
     if (!all) {
         std::fprintf(stderr, "vorbel-bench: %s\n", error.c_str());
         return false;

@@ -24,14 +24,14 @@ void refill(QOpenGLExtraFunctions& gl, GLenum target, const GlObject& buffer, co
 
 } // namespace
 
-BatchDrawer::BatchDrawer(const Resources& resources, QOpenGLExtraFunctions& gl)
-    : pictures_(resources),
+BatchDrawer::BatchDrawer(Pictures& pictures, QOpenGLExtraFunctions& gl)
+    : pictures_(pictures),
       instances_(newBuffer(gl)),
       views_{newBuffer(gl), newBuffer(gl), newBuffer(gl)},
       lights_(newBuffer(gl)) {}
 
-std::unique_ptr<BatchDrawer> BatchDrawer::create(const Resources& resources, std::string& error) {
-    std::unique_ptr<BatchDrawer> drawer(new BatchDrawer(resources, currentGl()));
+std::unique_ptr<BatchDrawer> BatchDrawer::create(Pictures& pictures, std::string& error) {
+    std::unique_ptr<BatchDrawer> drawer(new BatchDrawer(pictures, currentGl()));
     return drawer->compilePrograms(error) ? std::move(drawer) : nullptr;
 }
 

@@ -21,7 +21,7 @@ using Views = std::array<ViewUniforms, 3>; // in the order of the eyes
 class BatchDrawer {
 public:
     // None when a shader fails; `error` then says why.
-    [[nodiscard]] static std::unique_ptr<BatchDrawer> create(const Resources& resources, std::string& error);
+    [[nodiscard]] static std::unique_ptr<BatchDrawer> create(Pictures& pictures, std::string& error);
 
     // What all draws until the next call take their instances, their views and their light from.
     void begin(QOpenGLExtraFunctions& gl, std::span<const Instance> instances, const Views& views,
@@ -30,7 +30,7 @@ public:
     void draw(QOpenGLExtraFunctions& gl, Pass pass, std::span<const Batch> batches);
 
 private:
-    BatchDrawer(const Resources& resources, QOpenGLExtraFunctions& gl);
+    BatchDrawer(Pictures& pictures, QOpenGLExtraFunctions& gl);
     bool compilePrograms(std::string& error);
 
     static constexpr std::size_t looks = 4; // with a picture or without, unlit or not

@@ -1,5 +1,6 @@
 #include "platform/render/Offscreen.h"
 
+#include "platform/render/Pictures.h"
 #include "platform/render/Renderer.h"
 
 #include <QOffscreenSurface>
@@ -44,7 +45,9 @@ QImage renderToImage(const Frame& frame, int width, int height, const Resources&
         return {};
     }
     QImage image;
-    if (const auto renderer = Renderer::create(resources, error)) {
+    Pictures pictures(resources);
+    pictures.announce(frame);
+    if (const auto renderer = Renderer::create(pictures, error)) {
         image = drawWith(*renderer, frame, {width, height}, error);
     }
     return image;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/render/GlObject.h"
-#include "platform/resources/Resources.h"
+#include "platform/render/Pictures.h"
 
 #include <map>
 #include <string>
@@ -12,14 +12,13 @@ namespace vorbel {
 
 class PictureCache {
 public:
-    explicit PictureCache(const Resources& resources) : resources_(resources) {}
+    explicit PictureCache(Pictures& pictures) : pictures_(pictures) {}
 
-    // The texture with the PNG of that name, its colours multiplied by alpha, with all smaller sizes; plain
-    // white when the picture is missing or broken.
+    // The texture with the picture of that name and all its smaller sizes.
     GLuint find(QOpenGLExtraFunctions& gl, std::string_view name);
 
 private:
-    const Resources& resources_;
+    Pictures& pictures_;
     std::map<std::string, GlObject, std::less<>> textures_;
 };
 

@@ -58,13 +58,13 @@ struct Renderer::Parts {
     void redrawChanges(QOpenGLExtraFunctions& gl, const Damage& damage);
 };
 
-std::unique_ptr<Renderer> Renderer::create(const Resources& resources, std::string& error, Redraw redraw) {
+std::unique_ptr<Renderer> Renderer::create(Pictures& pictures, std::string& error, Redraw redraw) {
     if (std::string problem = contextProblem(); !problem.empty()) {
         error = std::move(problem);
         return nullptr;
     }
     QOpenGLExtraFunctions& gl = currentGl();
-    auto drawer = BatchDrawer::create(resources, error);
+    auto drawer = BatchDrawer::create(pictures, error);
     auto painter = RegionPainter::create(error);
     auto layer = Layer::create(error);
     if (!drawer || !painter || !layer) {

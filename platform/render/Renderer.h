@@ -10,7 +10,7 @@
 
 namespace vorbel {
 
-class Resources;
+class Pictures;
 
 // How much of the picture each frame draws. Both show the same; drawing all is slow and there to compare
 // with.
@@ -20,8 +20,8 @@ class Renderer {
 public:
     // Needs a current OpenGL context, to which the renderer then belongs: it is drawn with and destroyed
     // while that context, or one that shares with it, is current. Without a usable context the result is null
-    // and `error` says why in one line; otherwise `error` is left as it is. Keeps a reference to `resources`.
-    [[nodiscard]] static std::unique_ptr<Renderer> create(const Resources& resources, std::string& error,
+    // and `error` says why in one line; otherwise `error` is left as it is. Keeps a reference to `pictures`.
+    [[nodiscard]] static std::unique_ptr<Renderer> create(Pictures& pictures, std::string& error,
                                                           Redraw redraw = Redraw::changes);
 
     ~Renderer();

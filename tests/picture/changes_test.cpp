@@ -1,4 +1,5 @@
 // Drawing only what changed shows the same as drawing everything.
+#include "platform/render/Pictures.h"
 #include "platform/render/Renderer.h"
 #include "platform/resources/Resources.h"
 #include "scene/Ball.h"
@@ -29,7 +30,7 @@ protected:
 
     std::unique_ptr<Renderer> create(Redraw redraw) {
         std::string error;
-        auto renderer = Renderer::create(resources, error, redraw);
+        auto renderer = Renderer::create(pictures, error, redraw);
         EXPECT_TRUE(renderer) << error;
         return renderer;
     }
@@ -63,6 +64,7 @@ protected:
     [[nodiscard]] long allPixels() const { return static_cast<long>(target.width()) * target.height(); }
 
     Resources resources;
+    Pictures pictures{resources};
     OffscreenTarget target{600, 400};
     RollingBalls arena;
     std::unique_ptr<Renderer> changes;

@@ -2,6 +2,7 @@
 #include "tests/picture/PictureTest.h"
 
 #include "platform/render/ColorSpace.h"
+#include "platform/render/Pictures.h"
 #include "platform/render/Renderer.h"
 
 #include <algorithm>
@@ -123,7 +124,9 @@ TEST_F(LightTest, EmissionGlowsWhereNoLightIs) {
 
 TEST(Renderer, WithoutAContextSaysSo) {
     std::string error;
-    EXPECT_EQ(Renderer::create(Resources(), error), nullptr);
+    const Resources resources;
+    Pictures pictures(resources);
+    EXPECT_EQ(Renderer::create(pictures, error), nullptr);
     EXPECT_EQ(error, "OpenGL is not available.");
 }
 
