@@ -60,16 +60,17 @@ Panel {
             Layout.alignment: Qt.AlignHCenter
             Layout.topMargin: 2
 
+            // Counted, not listed: other words must not make new buttons, since a layout of Qt 6.4 that is resized
+            // at that moment still knows the old ones.
             Repeater {
-                model: panel.hud.difficultyTitles
+                model: panel.hud.difficultyTitles.length
 
                 DifficultyButton {
                     id: level
 
                     required property int index
-                    required property string modelData
 
-                    text: level.modelData
+                    text: panel.hud.difficultyTitles[level.index]
                     selected: level.index === panel.difficultyIndex
                     onClicked: panel.difficultyChosen(level.index)
                 }

@@ -3,9 +3,12 @@
 #include "tests/scenario/program/Program.h"
 #include "tests/scenario/shell/GameWindow.h"
 
+#include "platform/store/SettingsDefaults.h"
+
 #include <QDir>
 #include <QPixmap>
 #include <QScreen>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -96,6 +99,23 @@ protected:
     QRect frame;
     QString decoration;
 };
+
+// The language comes just before the window manager gives the window its first size.
+TEST(ShellStart, InAStoredLanguageTheFirstResizeFindsAllControlsInPlace) {
+    const QTemporaryDir settings;
+    SettingsDefaults(settings.filePath(QStringLiteral("vorbel")).toStdString())
+        .setText("boccia_language", "el");
+    WindowManager windowManager;
+    ASSERT_TRUE(windowManager.isReady());
+    for (int start = 0; start < 3; ++start) {
+        const Program game({}, {{QStringLiteral("XDG_CONFIG_HOME"), settings.path()}});
+        const auto window = GameWindow::find();
+        ASSERT_TRUE(window);
+        window->place(windowed);
+        EXPECT_TRUE(waitUntil([&] { return window->frame().size() == windowed.size(); }, patience));
+        EXPECT_TRUE(game.isRunning());
+    }
+}
 
 INSTANTIATE_TEST_SUITE_P(Desktops, ShellTest, testing::Values(true, false), [](const auto& desktop) {
     return desktop.param ? "WithWindowManager" : "WithoutWindowManager";
