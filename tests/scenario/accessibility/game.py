@@ -42,6 +42,14 @@ def identity(item):
     return item.getRoleName(), item.name
 
 
+def process_id(application):
+    """None for one that has ended and is still listed, or that is just going away."""
+    try:
+        return application.get_process_id()
+    except (GLib.Error, AttributeError):
+        return None
+
+
 class Folder(tempfile.TemporaryDirectory):
     """A settings folder of its own, which outlives the game."""
 
@@ -94,15 +102,21 @@ class Game:
 
     def _application(self):
         desktop = pyatspi.Registry.getDesktop(0)
-        return [app for app in desktop if app and app.get_process_id() == self.process.pid][0]
+        return [app for app in desktop if process_id(app) == self.process.pid][0]
 
     def _focused(self, event):
-        if event.detail1 and event.source and event.source.getRoleName() in INTERACTIVE:
-            self.focus = identity(event.source)
+        try:
+            if event.detail1 and event.source and event.source.getRoleName() in INTERACTIVE:
+                self.focus = identity(event.source)
+        except GLib.Error:
+            pass  # a late event of a game that has ended
 
     def _renamed(self, event):
-        if event.source and event.source.getRoleName() == "alert":
-            self.messages.append(event.source.name)
+        try:
+            if event.source and event.source.getRoleName() == "alert":
+                self.messages.append(event.source.name)
+        except GLib.Error:
+            pass  # a late event of a game that has ended
 
     def items(self):
         """All that is shown now, in order."""
