@@ -21,8 +21,8 @@ class NotificationCenter {
 public:
     using Observer = std::function<void()>;
 
-    // Calls the observer whenever that name is posted, for as long as the subscription lives. The centre must
-    // outlive it.
+    // Calls the observer whenever that name is posted, for as long as the subscription lives. That may
+    // outlive the centre.
     [[nodiscard]] Subscription addObserver(std::string_view name, Observer observer);
 
     // Calls the observers of that name before it returns, the oldest first. Without any it does nothing.
@@ -33,7 +33,8 @@ private:
         std::string name;
         Observer observer;
     };
-    std::vector<std::shared_ptr<const Entry>> entries_;
+    using Entries = std::vector<std::shared_ptr<const Entry>>;
+    std::shared_ptr<Entries> entries_ = std::make_shared<Entries>(); // its subscriptions hold it weakly
 };
 
 } // namespace vorbel
