@@ -1,5 +1,10 @@
 #include "platform/random/RandomSource.h"
 
+#include <cerrno>
+#include <system_error>
+
+#include <unistd.h>
+
 namespace vorbel {
 
 double RandomSource::uniform(double low, double high) {
@@ -22,9 +27,16 @@ std::uint64_t RandomSource::below(std::uint64_t bound) {
     return drawn % bound;
 }
 
+// Not std::random_device: that asks the processor for each number, which takes tens of microseconds on a
+// virtual machine, and a thousand are needed to fill the stands.
 std::uint64_t SystemRandom::next() {
-    constexpr unsigned halfWidth = 32;
-    return (static_cast<std::uint64_t>(device_()) << halfWidth) | device_();
+    if (used_ == drawn_.size()) {
+        if (::getentropy(drawn_.data(), sizeof drawn_) != 0) {
+            throw std::system_error(errno, std::generic_category(), "no random numbers");
+        }
+        used_ = 0;
+    }
+    return drawn_[used_++];
 }
 
 } // namespace vorbel

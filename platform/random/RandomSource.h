@@ -1,6 +1,7 @@
 // Uniform random numbers.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <random>
@@ -24,10 +25,11 @@ private:
     std::uint64_t below(std::uint64_t bound); // uniform in 0 … bound − 1
 };
 
-// The operating system's generator: every run differs.
+// The operating system's generator: every run differs. Throws std::system_error where there is none.
 class SystemRandom final : public RandomSource {
     std::uint64_t next() override;
-    std::random_device device_;
+    std::array<std::uint64_t, 32> drawn_{}; // as much as the system gives at a time, 256 bytes
+    std::size_t used_ = drawn_.size();
 };
 
 // Repeats exactly for the same seed, on every machine.
