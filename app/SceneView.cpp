@@ -30,8 +30,8 @@ SceneView::~SceneView() = default;
 void SceneView::setView(ContentView* view) {
     view_ = view;
     drawing_->pictures = std::make_unique<Pictures>(view_->resources());
-    drawing_->pictures->announce(
-        makeFrame(view_->gameLogic().scene, 1)); // read while the window is being made
+    copyScene(view_->gameLogic().scene, 1, drawing_->frame);
+    drawing_->pictures->announce(drawing_->frame); // read while the window is being made
     connect(view_, &ContentView::ticked, this, &SceneView::matchTicked);
     connect(view_, &ContentView::refreshed, this, &SceneView::requestFrame);
     emit viewChanged();
@@ -105,7 +105,7 @@ void SceneView::report(const QString& problem) {
 }
 
 void SceneView::copyFrame() {
-    drawing_->frame = makeFrame(view_->gameLogic().scene, tickFraction());
+    copyScene(view_->gameLogic().scene, tickFraction(), drawing_->frame);
     view_->holdRefreshes();
     pacer_->frameBegan();
 }

@@ -4,6 +4,7 @@
 #include "platform/scenegraph/Scene.h"
 
 #include <cmath>
+#include <utility>
 
 #include <glm/gtc/matrix_transform.hpp>
 #include <glm/gtc/quaternion.hpp>
@@ -14,27 +15,31 @@ namespace {
 
 using Mat4 = glm::dmat4;
 
-// A shape taken apart: what it looks like at unit size, and its size.
-struct SizedShape {
-    Shape unit;
-    Vec3 size{1};
-};
-
-struct UnitShape {
-    SizedShape operator()(const Box& box) const {
+// Takes the size out of a simple shape, which is of unit size then, and returns it.
+struct TakeSize {
+    Vec3 operator()(Box& box) const {
         if (box.chamferRadius > 0) {
-            return {box};
+            return Vec3(1);
         }
-        return {Box{1, 1, 1, 0}, {box.width, box.height, box.length}};
+        const Vec3 size(box.width, box.height, box.length);
+        box = {1, 1, 1, 0};
+        return size;
     }
-    SizedShape operator()(const Plane& plane) const { return {Plane{1, 1}, {plane.width, plane.height, 1}}; }
-    SizedShape operator()(const Sphere& sphere) const { return {Sphere{1}, Vec3(sphere.radius)}; }
-    SizedShape operator()(const Cylinder& cylinder) const {
-        return {Cylinder{1, 1}, {cylinder.radius, cylinder.height, cylinder.radius}};
+    Vec3 operator()(Plane& plane) const {
+        const Vec3 size(plane.width, plane.height, 1);
+        plane = {1, 1};
+        return size;
     }
-    SizedShape operator()(const Capsule& capsule) const { return {capsule}; }
-    SizedShape operator()(const Floor& floor) const { return {floor}; }
-    SizedShape operator()(const Extrusion& extrusion) const { return {extrusion}; }
+    Vec3 operator()(Sphere& sphere) const { return Vec3(std::exchange(sphere.radius, 1)); }
+    Vec3 operator()(Cylinder& cylinder) const {
+        const Vec3 size(cylinder.radius, cylinder.height, cylinder.radius);
+        cylinder = {1, 1};
+        return size;
+    }
+    template <typename Other>
+    Vec3 operator()(Other& /*shape*/) const {
+        return Vec3(1);
+    }
 };
 
 Mat4 localMatrix(const Node& node, double fraction) {
@@ -56,14 +61,17 @@ std::optional<Vec3> positionBelow(const Node& node, const Mat4& parent, const No
     return std::nullopt;
 }
 
-class FrameMaker {
+class SceneCopier {
 public:
-    FrameMaker(const Scene& scene, double fraction) : scene_(scene), fraction_(fraction) {
+    SceneCopier(const Scene& scene, double fraction, Frame& frame)
+        : scene_(scene), fraction_(fraction), frame_(frame) {
+        frame_.ambient = glm::vec3(0);
+        frame_.spot.reset();
+        frame_.camera = {};
         frame_.background = scene.background;
         addNode(*scene.root, Mat4(1), 1);
+        frame_.items.resize(itemCount_);
     }
-
-    Frame take() { return std::move(frame_); }
 
 private:
     void addNode(const Node& node, const Mat4& parent, double parentOpacity) {
@@ -83,13 +91,24 @@ private:
         }
         const Mat4 scaled = glm::scale(world, node.scale);
         if (node.geometry) {
-            const SizedShape shape = std::visit(UnitShape{}, node.geometry->shape);
-            frame_.items.push_back({&node, shape.unit, node.geometry->material,
-                                    glm::mat4(glm::scale(scaled, shape.size)), static_cast<float>(opacity)});
+            addItem(node, *node.geometry, scaled, opacity);
         }
         for (const Node::Ptr& child : node.children()) {
             addNode(*child, scaled, opacity);
         }
+    }
+
+    // Over the item that was there before, so that its memory is used again.
+    void addItem(const Node& node, const Geometry& geometry, const Mat4& world, double opacity) {
+        if (itemCount_ == frame_.items.size()) {
+            frame_.items.emplace_back();
+        }
+        DrawItem& item = frame_.items[itemCount_++];
+        item.node = &node;
+        item.shape = geometry.shape;
+        item.material = geometry.material;
+        item.world = glm::mat4(glm::scale(world, std::visit(TakeSize{}, item.shape)));
+        item.opacity = static_cast<float>(opacity);
     }
 
     // Turns the node's −z axis towards its look-at target; without a target the matrix stays.
@@ -129,14 +148,21 @@ private:
 
     const Scene& scene_;
     double fraction_;
-    Frame frame_;
+    Frame& frame_;
+    std::size_t itemCount_ = 0;
     bool hasCamera_ = false;
 };
 
 } // namespace
 
+void copyScene(const Scene& scene, double fraction, Frame& frame) {
+    SceneCopier(scene, fraction, frame);
+}
+
 Frame makeFrame(const Scene& scene, double fraction) {
-    return FrameMaker(scene, fraction).take();
+    Frame frame;
+    copyScene(scene, fraction, frame);
+    return frame;
 }
 
 } // namespace vorbel

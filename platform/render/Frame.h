@@ -56,9 +56,13 @@ struct Frame {
     Color background = colors::black;
 };
 
-// Copies what is to be seen of the scene, a fraction in 0…1 of a tick after its newest state (0 shows the
-// state before it; see Node::displayedPose). Nodes of opacity 0 are left out with all below them. Of several
-// spot lights or cameras the first is taken; without a camera the view is from the origin.
+// Makes the frame a copy of what is to be seen of the scene, a fraction in 0…1 of a tick after its newest
+// state (0 shows the state before it; see Node::displayedPose). Nodes of opacity 0 are left out with all
+// below them. Of several spot lights or cameras the first is taken; without a camera the view is from the
+// origin. No memory is allocated while the scene has the same shapes in the same order.
+void copyScene(const Scene& scene, double fraction, Frame& frame);
+
+// The same, as a new frame.
 [[nodiscard]] Frame makeFrame(const Scene& scene, double fraction);
 
 } // namespace vorbel

@@ -1,0 +1,100 @@
+// Frames are copied and followed for hours: that must not take memory each time.
+#include "platform/render/TrackedFrame.h"
+#include "platform/scenegraph/Scene.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::atomic<int> allocations = 0; // of this test program, all threads
+
+} // namespace
+
+void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size > 0 ? size : 1)) { // NOLINT(cppcoreguidelines-no-malloc)
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc)
+}
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc)
+}
+
+namespace vorbel {
+namespace {
+
+// A scene with every kind of memory in it: long picture names, outlines, a tree.
+struct Stand {
+    Scene scene;
+    std::vector<Node::Ptr> balls;
+
+    Stand() {
+        add(Floor{}, {});
+        add(Extrusion{{{0, 0}, {1, 0}, {0, 1}}, 0.1}, {});
+        add(Plane{}, {.picture = "APictureWithALongName"});
+        const Node::Ptr group = add(Box{}, {});
+        for (int i = 0; i < 13; ++i) {
+            balls.push_back(std::make_shared<Node>(Geometry{Sphere{0.04}, {}}));
+            balls.back()->setPosition({0.1 * i, 0.04, -2});
+            group->addChild(balls.back());
+        }
+    }
+
+    Node::Ptr add(Shape shape, Material material) {
+        auto node = std::make_shared<Node>(Geometry{std::move(shape), std::move(material)});
+        scene.root->addChild(node);
+        return node;
+    }
+
+    void roll(double distance) {
+        for (const Node::Ptr& ball : balls) {
+            ball->setPosition(ball->position() + Vec3(0, 0, -distance));
+        }
+    }
+};
+
+TEST(Allocation, CountsWhatIsTaken) {
+    const int before = allocations;
+    const auto taken = std::make_unique<int>(1);
+    EXPECT_EQ(allocations, before + 1) << *taken;
+}
+
+TEST(Allocation, CopyingAMovingSceneTakesNoMemory) {
+    Stand stand;
+    Frame frame = makeFrame(stand.scene, 1);
+    const int before = allocations;
+    for (int tick = 0; tick < 10; ++tick) {
+        stand.roll(0.02);
+        copyScene(stand.scene, 0.5, frame);
+    }
+    EXPECT_EQ(allocations, before);
+    EXPECT_EQ(frame.items.size(), 17U);
+}
+
+TEST(Allocation, FollowingAMovingSceneTakesNoMemoryAfterTheFirstMovement) {
+    Stand stand;
+    TrackedFrame tracked;
+    Frame frame = makeFrame(stand.scene, 1);
+    tracked.follow(frame, 600, 400);
+    stand.roll(0.02);
+    copyScene(stand.scene, 1, frame);
+    tracked.follow(frame, 600, 400);
+    const int before = allocations;
+    for (int tick = 0; tick < 10; ++tick) {
+        stand.roll(0.02);
+        copyScene(stand.scene, 1, frame);
+        EXPECT_FALSE(tracked.follow(frame, 600, 400).nothing());
+    }
+    EXPECT_EQ(allocations, before);
+}
+
+} // namespace
+} // namespace vorbel
