@@ -1,6 +1,7 @@
 #include "app/Display.h"
 
 #include <QOpenGLContext>
+#include <QQuickGraphicsConfiguration>
 #include <QQuickWindow>
 #include <QSurfaceFormat>
 
@@ -21,8 +22,11 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
     }
 }
 
+// The arena is drawn into pictures of its own and the rest from back to front, so the window needs no depth.
 QSurfaceFormat wantedFormat() {
     QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    format.setDepthBufferSize(0);
+    format.setStencilBufferSize(0);
     if (QOpenGLContext::openGLModuleType() == QOpenGLContext::LibGLES) {
         format.setRenderableType(QSurfaceFormat::OpenGLES);
         format.setVersion(3, 0);
@@ -56,6 +60,8 @@ DisplayGuard::~DisplayGuard() {
 }
 
 void chooseGraphics() {
+    // The one picture among texts and shapes would otherwise be put into a shared one of 8 MB.
+    qputenv("QSG_ATLAS_SIZE_LIMIT", "1");
     const QSurfaceFormat format = wantedFormat();
     if (canDraw(format)) {
         QSurfaceFormat::setDefaultFormat(format);
@@ -63,6 +69,12 @@ void chooseGraphics() {
     } else {
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     }
+}
+
+void prepareWindow(QQuickWindow& window) {
+    QQuickGraphicsConfiguration configuration = window.graphicsConfiguration();
+    configuration.setDepthBufferFor2D(false);
+    window.setGraphicsConfiguration(configuration);
 }
 
 } // namespace vorbel

@@ -24,6 +24,11 @@ QString fontFamily(AppLanguage language) {
     }
 }
 
+QString nameFontFamily(AppLanguage language) {
+    const bool chineseOrKorean = language == AppLanguage::zh || language == AppLanguage::ko;
+    return fontFamily(chineseOrKorean ? AppLanguage::ja : language);
+}
+
 void prepareFonts() {
     const QString base = fontFamily(defaultLanguage);
     const QString emoji = QStringLiteral("Noto Color Emoji");

@@ -12,6 +12,10 @@ namespace vorbel {
 // than those of other scripts. What a family lacks comes from "Noto Sans", then from "Noto Color Emoji".
 [[nodiscard]] QString fontFamily(AppLanguage language);
 
+// The family for the language's own name in a list of all. Those three read the same in each of their fonts,
+// which are large: one of them does for all names.
+[[nodiscard]] QString nameFontFamily(AppLanguage language);
+
 // Makes the substitutes known and the default font "Noto Sans". Call once, after the application object is
 // made.
 void prepareFonts();

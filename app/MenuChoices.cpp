@@ -42,7 +42,7 @@ QStringList MenuChoices::languages() const {
     return texts(allLanguages, [](AppLanguage language) { return qString(displayName(language)); });
 }
 QStringList MenuChoices::languageFonts() const {
-    return texts(allLanguages, fontFamily);
+    return texts(allLanguages, nameFontFamily);
 }
 int MenuChoices::languageIndex() const {
     return static_cast<int>(view_.selectedLanguage());

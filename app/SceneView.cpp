@@ -104,6 +104,11 @@ void SceneView::report(const QString& problem) {
     }
 }
 
+// From the render thread.
+void SceneView::reportLater(const std::string& problem) {
+    QMetaObject::invokeMethod(this, [this, problem] { report(QString::fromStdString(problem)); });
+}
+
 void SceneView::copyFrame() {
     copyScene(view_->gameLogic().scene, tickFraction(), drawing_->frame);
     view_->holdRefreshes();
@@ -121,13 +126,16 @@ void SceneView::drawFrame(QQuickWindow& window) {
         drawing.renderer = Renderer::create(*drawing.pictures, error, wantedRedraw());
         if (!drawing.renderer) {
             drawing.failed = true;
-            QMetaObject::invokeMethod(this, [this, error] { report(QString::fromStdString(error)); });
+            reportLater(error);
         }
     }
     if (drawing.renderer) {
         const QSize size = window.size() * window.effectiveDevicePixelRatio();
         const GLuint target = QOpenGLContext::currentContext()->defaultFramebufferObject();
         drawing.renderer->draw(drawing.frame, target, size.width(), size.height());
+        if (const std::string& problem = drawing.renderer->problem(); !problem.empty()) {
+            reportLater(problem);
+        }
     }
     window.endExternalCommands();
 }

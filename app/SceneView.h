@@ -53,6 +53,7 @@ private:
     [[nodiscard]] bool sceneMoves();
     [[nodiscard]] double tickFraction() const;
     void report(const QString& problem);
+    void reportLater(const std::string& problem);
 
     void copyFrame();
     void drawFrame(QQuickWindow& window); // on the render thread

@@ -9,11 +9,6 @@ namespace {
 constexpr std::array<const char*, passCount> passDefines = {"DEPTH", "MIRROR", "", "FLOOR"};
 constexpr std::array<const char*, 4> lookDefines = {"", " PICTURE", " UNLIT", " PICTURE UNLIT"};
 
-std::size_t programIndex(Pass pass, bool picture, bool unlit) {
-    const std::size_t look = (picture ? 1U : 0U) + (unlit && pass != Pass::depth ? 2U : 0U);
-    return static_cast<std::size_t>(pass) * lookDefines.size() + look;
-}
-
 template <typename Data>
 void refill(QOpenGLExtraFunctions& gl, GLenum target, const GlObject& buffer, const Data* data,
             std::size_t count) {
@@ -24,32 +19,23 @@ void refill(QOpenGLExtraFunctions& gl, GLenum target, const GlObject& buffer, co
 
 } // namespace
 
-BatchDrawer::BatchDrawer(Pictures& pictures, QOpenGLExtraFunctions& gl)
+BatchDrawer::BatchDrawer(Pictures& pictures)
     : pictures_(pictures),
-      instances_(newBuffer(gl)),
-      views_{newBuffer(gl), newBuffer(gl), newBuffer(gl)},
-      lights_(newBuffer(gl)) {}
+      instances_(newBuffer(currentGl())),
+      views_{newBuffer(currentGl()), newBuffer(currentGl()), newBuffer(currentGl())},
+      lights_(newBuffer(currentGl())) {}
 
-std::unique_ptr<BatchDrawer> BatchDrawer::create(Pictures& pictures, std::string& error) {
-    std::unique_ptr<BatchDrawer> drawer(new BatchDrawer(pictures, currentGl()));
-    return drawer->compilePrograms(error) ? std::move(drawer) : nullptr;
-}
-
-bool BatchDrawer::compilePrograms(std::string& error) {
-    for (std::size_t pass = 0; pass < passCount; ++pass) {
-        for (std::size_t look = 0; look < looks; ++look) {
-            if (static_cast<Pass>(pass) == Pass::depth && look >= 2) {
-                continue; // depth is the same with and without light
-            }
-            const std::string defines = std::string(passDefines[pass]) + lookDefines[look];
-            auto& program = programs_[pass * looks + look];
-            program = ShaderProgram::create(shaders::surfaceVertex, shaders::surfaceFragment, defines, error);
-            if (!program) {
-                return false;
-            }
-        }
+const ShaderProgram* BatchDrawer::findProgram(Pass pass, const Look& look) {
+    const bool unlit = look.unlit && pass != Pass::depth; // depth is the same with and without light
+    const std::size_t index = (look.picture.empty() ? 0U : 1U) + (unlit ? 2U : 0U);
+    Variant& variant = variants_[static_cast<std::size_t>(pass) * looks + index];
+    if (!std::exchange(variant.tried, true)) {
+        const std::string defines =
+            std::string(passDefines[static_cast<std::size_t>(pass)]) + lookDefines[index];
+        variant.program =
+            ShaderProgram::create(shaders::surfaceVertex, shaders::surfaceFragment, defines, problem_);
     }
-    return true;
+    return variant.program ? &*variant.program : nullptr;
 }
 
 void BatchDrawer::begin(QOpenGLExtraFunctions& gl, std::span<const Instance> instances, const Views& views,
@@ -70,12 +56,15 @@ void BatchDrawer::draw(QOpenGLExtraFunctions& gl, Pass pass, std::span<const Bat
     gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
     for (const Batch& batch : batches) {
         const Look& look = *batch.look;
-        const bool picture = !look.picture.empty();
-        if (picture) {
+        const ShaderProgram* program = findProgram(pass, look);
+        if (program == nullptr) {
+            continue;
+        }
+        if (!look.picture.empty()) {
             gl.glBindTexture(GL_TEXTURE_2D, pictures_.find(gl, look.picture));
         }
         look.doubleSided ? gl.glDisable(GL_CULL_FACE) : gl.glEnable(GL_CULL_FACE);
-        programs_[programIndex(pass, picture, look.unlit)]->use(gl);
+        program->use(gl);
         meshes_.draw(gl, batch, instances_.id());
     }
 }

@@ -20,8 +20,8 @@ using Views = std::array<ViewUniforms, 3>; // in the order of the eyes
 
 class BatchDrawer {
 public:
-    // None when a shader fails; `error` then says why.
-    [[nodiscard]] static std::unique_ptr<BatchDrawer> create(Pictures& pictures, std::string& error);
+    // Uses the current context. Keeps a reference to `pictures`.
+    explicit BatchDrawer(Pictures& pictures);
 
     // What all draws until the next call take their instances, their views and their light from.
     void begin(QOpenGLExtraFunctions& gl, std::span<const Instance> instances, const Views& views,
@@ -29,12 +29,19 @@ public:
     void setView(QOpenGLExtraFunctions& gl, Eye eye);
     void draw(QOpenGLExtraFunctions& gl, Pass pass, std::span<const Batch> batches);
 
+    // Why some batches were left out: the driver refuses their shader. Empty when all were drawn.
+    [[nodiscard]] const std::string& problem() const { return problem_; }
+
 private:
-    BatchDrawer(Pictures& pictures, QOpenGLExtraFunctions& gl);
-    bool compilePrograms(std::string& error);
+    const ShaderProgram* findProgram(Pass pass, const Look& look);
 
     static constexpr std::size_t looks = 4; // with a picture or without, unlit or not
-    std::array<std::optional<ShaderProgram>, passCount * looks> programs_;
+    struct Variant {
+        bool tried = false;
+        std::optional<ShaderProgram> program;
+    };
+    std::array<Variant, passCount * looks> variants_; // each is compiled when it is first needed
+    std::string problem_;
     MeshCache meshes_;
     PictureCache pictures_;
     GlObject instances_;

@@ -22,16 +22,11 @@ void setAttribute(QOpenGLExtraFunctions& gl, GLuint location, int components, in
 
 std::unique_ptr<Layer> Layer::create(std::string& error) {
     auto encode = ShaderProgram::create(shaders::pieceVertex, shaders::encodeFragment, "", error);
-    auto copy = ShaderProgram::create(shaders::screenVertex, shaders::copyFragment, "", error);
-    if (!encode || !copy) {
-        return nullptr;
-    }
-    return std::unique_ptr<Layer>(new Layer(std::move(*encode), std::move(*copy), currentGl()));
+    return encode ? std::unique_ptr<Layer>(new Layer(std::move(*encode), currentGl())) : nullptr;
 }
 
-Layer::Layer(ShaderProgram encode, ShaderProgram copy, QOpenGLExtraFunctions& gl)
+Layer::Layer(ShaderProgram encode, QOpenGLExtraFunctions& gl)
     : encode_(std::move(encode)),
-      copy_(std::move(copy)),
       pieces_(newBuffer(gl)),
       pieceArray_(newVertexArray(gl)),
       emptyArray_(newVertexArray(gl)) {
@@ -84,21 +79,30 @@ void Layer::put(QOpenGLExtraFunctions& gl, std::span<const Piece> pieces, GLuint
     gl.glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(pieces.size()));
 }
 
-void Layer::show(QOpenGLExtraFunctions& gl, GLuint framebuffer) const {
+void Layer::show(QOpenGLExtraFunctions& gl, GLuint framebuffer) {
     gl.glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
     gl.glViewport(0, 0, width_, height_);
     GLint samples = 0;
     gl.glGetIntegerv(GL_SAMPLES, &samples);
-    if (samples == 0) { // a plain copy, many times faster than shading without graphics hardware
-        gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer_.id());
-        gl.glBlitFramebuffer(0, 0, width_, height_, 0, 0, width_, height_, GL_COLOR_BUFFER_BIT, GL_NEAREST);
-        gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer);
+    if (samples > 0) {
+        showByShader(gl);
         return;
+    }
+    // A plain copy, many times faster than shading without graphics hardware.
+    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer_.id());
+    gl.glBlitFramebuffer(0, 0, width_, height_, 0, 0, width_, height_, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer);
+}
+
+void Layer::showByShader(QOpenGLExtraFunctions& gl) {
+    if (!copy_) {
+        std::string error; // there is nothing in this shader that a driver could refuse
+        copy_ = ShaderProgram::create(shaders::screenVertex, shaders::copyFragment, "", error);
     }
     gl.glDisable(GL_CULL_FACE);
     gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
     gl.glBindTexture(GL_TEXTURE_2D, texture_.id());
-    copy_.use(gl);
+    copy_.value().use(gl);
     gl.glBindVertexArray(emptyArray_.id());
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
 }

@@ -22,13 +22,14 @@ public:
     void put(QOpenGLExtraFunctions& gl, std::span<const Piece> pieces, GLuint sheet);
 
     // Copies all of it into the framebuffer; the same tests must be off.
-    void show(QOpenGLExtraFunctions& gl, GLuint framebuffer) const;
+    void show(QOpenGLExtraFunctions& gl, GLuint framebuffer);
 
 private:
-    Layer(ShaderProgram encode, ShaderProgram copy, QOpenGLExtraFunctions& gl);
+    Layer(ShaderProgram encode, QOpenGLExtraFunctions& gl);
+    void showByShader(QOpenGLExtraFunctions& gl); // the only way into a multisampled framebuffer
 
     ShaderProgram encode_;
-    ShaderProgram copy_;
+    std::optional<ShaderProgram> copy_; // few windows need it: made when it is first used
     GlObject pieces_;
     GlObject pieceArray_;
     GlObject emptyArray_; // the triangle over the whole picture makes its corners in the shader

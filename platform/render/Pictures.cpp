@@ -12,27 +12,68 @@ namespace vorbel {
 
 namespace {
 
-// In pixels: a spectator is a tenth of the picture high, so this does for the largest screens.
-constexpr int greatestHeight = 512;
+// In pixels: a spectator is at most a thirteenth of the picture high, so this does for screens of 3000 lines.
+constexpr int greatestHeight = 256;
 
-// Multiplies the light, not its encoding, by alpha; only the pixels of the outline cost time.
-void multiplyByAlpha(QImage& image) {
-    std::array<float, 256> light{};
+constexpr int channels = 4; // red, green, blue, alpha
+
+using LightTable = std::array<float, 256>; // of each encoded value
+
+LightTable makeLightTable() {
+    LightTable light{};
     for (std::size_t i = 0; i < light.size(); ++i) {
         light[i] = linearLight(static_cast<float>(i) / 255);
     }
+    return light;
+}
+
+uchar encodedByte(float light) {
+    return static_cast<uchar>(255 * encodedLight(light) + 0.5F);
+}
+
+// Multiplies the light, not its encoding, by alpha; only the pixels of the outline cost time.
+void multiplyByAlpha(QImage& image, const LightTable& light) {
     for (int y = 0; y < image.height(); ++y) {
         uchar* pixel = image.scanLine(y);
-        for (int x = 0; x < image.width(); ++x, pixel += 4) {
+        for (int x = 0; x < image.width(); ++x, pixel += channels) {
             for (int channel = 0; channel < 3 && pixel[3] < 255; ++channel) {
-                const float dimmed = light[pixel[channel]] * static_cast<float>(pixel[3]) / 255;
-                pixel[channel] = static_cast<uchar>(pixel[3] == 0 ? 0 : 255 * encodedLight(dimmed) + 0.5F);
+                const float alpha = static_cast<float>(pixel[3]) / 255;
+                pixel[channel] = pixel[3] == 0 ? 0 : encodedByte(light[pixel[channel]] * alpha);
             }
         }
     }
 }
 
-QImage loadPicture(const Resources& resources, const std::string& name) {
+// Four pixels as one: the light of all, and their alpha.
+void mix(const std::array<const uchar*, 4>& four, const LightTable& light, uchar* mixed) {
+    for (int channel = 0; channel < 3; ++channel) {
+        float sum = 0;
+        for (const uchar* pixel : four) {
+            sum += light[pixel[channel]];
+        }
+        mixed[channel] = encodedByte(sum / 4);
+    }
+    mixed[3] = static_cast<uchar>((four[0][3] + four[1][3] + four[2][3] + four[3][3] + 2) / 4);
+}
+
+// Drivers make smaller sizes as well, but those that draw without graphics hardware compile a shader for it
+// at every start, which takes longer than this.
+QImage halved(const QImage& image, const LightTable& light) {
+    QImage half(std::max(image.width() / 2, 1), std::max(image.height() / 2, 1), image.format());
+    for (int y = 0; y < half.height(); ++y) {
+        const uchar* upper = image.constScanLine(2 * y);
+        const uchar* lower = image.constScanLine(std::min(2 * y + 1, image.height() - 1));
+        uchar* mixed = half.scanLine(y);
+        for (int x = 0; x < half.width(); ++x, mixed += channels) {
+            const int left = 2 * x * channels;
+            const int right = std::min(2 * x + 1, image.width() - 1) * channels;
+            mix({upper + left, upper + right, lower + left, lower + right}, light, mixed);
+        }
+    }
+    return half;
+}
+
+PictureSizes loadPicture(const Resources& resources, const std::string& name) {
     QImage image;
     if (const auto file = resources.find(name, "png")) {
         image.load(QString::fromStdString(file->string()));
@@ -45,8 +86,13 @@ QImage loadPicture(const Resources& resources, const std::string& name) {
         image = image.scaledToHeight(greatestHeight, Qt::SmoothTransformation);
     }
     image.convertTo(QImage::Format_RGBA8888);
-    multiplyByAlpha(image);
-    return image;
+    const LightTable light = makeLightTable();
+    multiplyByAlpha(image, light);
+    PictureSizes sizes{std::move(image)};
+    while (sizes.back().width() > 1 || sizes.back().height() > 1) {
+        sizes.push_back(halved(sizes.back(), light));
+    }
+    return sizes;
 }
 
 } // namespace
@@ -61,7 +107,7 @@ void Pictures::announce(const Frame& frame) {
     }
 }
 
-QImage Pictures::read(std::string_view name) {
+PictureSizes Pictures::read(std::string_view name) {
     const auto announced = announced_.find(name);
     return announced != announced_.end() && announced->second.valid()
                ? announced->second.get()

@@ -27,7 +27,7 @@ std::string contextProblem() {
            std::to_string(version.first) + "." + std::to_string(version.second) + ".";
 }
 
-constexpr int sheetHeight = 256; // pixels: the sheet is as wide as the picture, and lower to save memory
+constexpr int sheetHeight = 128; // pixels: the sheet is as wide as the picture, and lower to save memory
 
 // Unites what is nearer than that many pixels are worth.
 constexpr long pictureOverhead = 1500;
@@ -64,10 +64,9 @@ std::unique_ptr<Renderer> Renderer::create(Pictures& pictures, std::string& erro
         return nullptr;
     }
     QOpenGLExtraFunctions& gl = currentGl();
-    auto drawer = BatchDrawer::create(pictures, error);
     auto painter = RegionPainter::create(error);
     auto layer = Layer::create(error);
-    if (!drawer || !painter || !layer) {
+    if (!painter || !layer) {
         return nullptr;
     }
     Sheet sheet;
@@ -77,7 +76,7 @@ std::unique_ptr<Renderer> Renderer::create(Pictures& pictures, std::string& erro
     }
     auto parts = std::make_unique<Parts>();
     parts->redraw = redraw;
-    parts->drawer = std::move(drawer);
+    parts->drawer = std::make_unique<BatchDrawer>(pictures);
     parts->painter = std::move(painter);
     parts->layer = std::move(layer);
     parts->sheet = std::move(sheet);
@@ -86,6 +85,10 @@ std::unique_ptr<Renderer> Renderer::create(Pictures& pictures, std::string& erro
 
 Renderer::Renderer(std::unique_ptr<Parts> parts) : parts_(std::move(parts)) {}
 Renderer::~Renderer() = default;
+
+const std::string& Renderer::problem() const {
+    return parts_->drawer->problem();
+}
 
 Renderer::Effort Renderer::lastEffort() const {
     return parts_->effort;

@@ -34,6 +34,10 @@ public:
     // and scissor test, culling and blending switched off.
     void draw(const Frame& frame, unsigned targetFramebuffer, int width, int height);
 
+    // Why the pictures lack something: the driver refuses a shader that only some of the frame needs. Empty
+    // when all is drawn.
+    [[nodiscard]] const std::string& problem() const;
+
     // How many pixels of the picture and texels of the shadow map the last frame drew anew.
     struct Effort {
         long pixels = 0;

@@ -74,6 +74,8 @@ std::optional<ShaderProgram> ShaderProgram::create(std::string_view vertexSource
     gl.glAttachShader(program.id(), vertex.id());
     gl.glAttachShader(program.id(), fragment.id());
     gl.glLinkProgram(program.id());
+    gl.glDetachShader(program.id(), vertex.id()); // lets the driver drop what it needed for linking alone
+    gl.glDetachShader(program.id(), fragment.id());
     GLint linked = GL_FALSE;
     gl.glGetProgramiv(program.id(), GL_LINK_STATUS, &linked);
     if (linked != GL_TRUE) {

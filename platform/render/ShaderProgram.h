@@ -19,8 +19,9 @@ inline constexpr GLint shadowUnit = 1;
 
 class ShaderProgram {
 public:
-    // `defines` are names, separated by spaces, that switch parts of the sources on. None when a shader does
-    // not compile or the program does not link; `error` then holds the first line of the driver's reason.
+    // Needs a current context. `defines` are names, separated by spaces, that switch parts of the sources on.
+    // None when a shader does not compile or the program does not link; `error` then holds the first line of
+    // the driver's reason.
     [[nodiscard]] static std::optional<ShaderProgram> create(std::string_view vertexSource,
                                                              std::string_view fragmentSource,
                                                              std::string_view defines, std::string& error);

@@ -30,8 +30,10 @@ public:
     }
 
     [[nodiscard]] bool works() const { return works_; }
-    void resize(int width, int height) {
-        framebuffer_ = std::make_unique<QOpenGLFramebufferObject>(width, height);
+    void resize(int width, int height, int samples = 0) {
+        QOpenGLFramebufferObjectFormat format;
+        format.setSamples(samples);
+        framebuffer_ = std::make_unique<QOpenGLFramebufferObject>(width, height, format);
     }
 
     [[nodiscard]] unsigned framebuffer() const { return framebuffer_->handle(); }

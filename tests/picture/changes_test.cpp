@@ -104,6 +104,12 @@ TEST_F(ChangesTest, WindowOfAnotherSize) {
     expectSame(arena.frame(1), "larger");
 }
 
+TEST_F(ChangesTest, MultisampledWindowShowsTheSame) {
+    const QImage plain = drawWith(*changes, arena.frame(1));
+    target.resize(target.width(), target.height(), 4);
+    EXPECT_EQ(drawWith(*changes, arena.frame(1)), plain);
+}
+
 TEST_F(ChangesTest, NewEndTakesTheBallsAway) {
     for (int tick = 0; tick < 40; ++tick) {
         arena.step();

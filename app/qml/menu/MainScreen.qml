@@ -16,8 +16,8 @@ MenuBackdrop {
     Image {
         source: screen.menu.logo
         visible: status === Image.Ready
+        sourceSize: Qt.size(128 * Screen.devicePixelRatio, 96 * Screen.devicePixelRatio)
         fillMode: Image.PreserveAspectFit
-        mipmap: true
         Layout.preferredHeight: 96
         Layout.preferredWidth: 128
         Layout.alignment: Qt.AlignHCenter
