@@ -1,6 +1,7 @@
 // How fast the arena is drawn. Prints one table; needs a display, a virtual one will do.
 #include "app/Display.h"
 #include "bench/render/Figures.h"
+#include "bench/render/game_bench.h"
 #include "bench/render/window_bench.h"
 #include "platform/render/Pictures.h"
 #include "platform/render/Renderer.h"
@@ -9,7 +10,9 @@
 #include "tests/picture/RollingBalls.h"
 
 #include <QGuiApplication>
-#include <sys/resource.h>
+
+#include <cstdlib>
+#include <string_view>
 
 namespace vorbel::bench {
 
@@ -61,18 +64,12 @@ bool measureDrawing(const Resources& resources) {
     return true;
 }
 
-int measure(int argc, char** argv, double startedAt) {
+int measure(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     chooseGraphics();
     const Resources resources = Resources::forProgram(QCoreApplication::applicationFilePath().toStdString());
-    const int status = measureWindow(resources, startedAt);
-    if (status != 0 || !measureDrawing(resources)) {
-        return 1;
-    }
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    printRow("peak memory of this program", static_cast<double>(usage.ru_maxrss) / 1024, "MiB");
-    return 0;
+    return measureGame() == 0 && measureWindow(resources) == 0 && measureDrawing(resources) ? EXIT_SUCCESS
+                                                                                            : EXIT_FAILURE;
 }
 
 } // namespace
@@ -80,5 +77,9 @@ int measure(int argc, char** argv, double startedAt) {
 } // namespace vorbel::bench
 
 int main(int argc, char** argv) {
-    return vorbel::bench::measure(argc, argv, vorbel::bench::Moment::now().wall);
+    using namespace vorbel::bench;
+    if (argc == 3 && std::string_view(argv[1]) == gameArgument) {
+        return runGame(argv[0], std::strtod(argv[2], nullptr));
+    }
+    return measure(argc, argv);
 }

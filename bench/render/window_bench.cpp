@@ -105,7 +105,7 @@ void printFrames(const char* what, int frames, const Moment& spent) {
 
 } // namespace
 
-int measureWindow(const Resources& resources, double startedAt) {
+int measureWindow(const Resources& resources) {
     QtMainQueue queue;
     SeededRandom random(1);
     SilentAudio audio;
@@ -119,12 +119,6 @@ int measureWindow(const Resources& resources, double startedAt) {
     if (window == nullptr) {
         return 1;
     }
-    QObject::connect(
-        window, &QQuickWindow::frameSwapped, window,
-        [startedAt] {
-            printRow("start of this program to its first frame", Moment::now().wall - startedAt, "ms");
-        },
-        static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::SingleShotConnection));
     view.setMenuScreen(MenuScreen::hidden);
     view.appear();
     run(*window, false, [] {});

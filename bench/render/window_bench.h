@@ -7,7 +7,7 @@ class Resources;
 
 namespace vorbel::bench {
 
-// Prints its rows; `startedAt` is Moment::wall at the start of the program. Returns an exit status.
-int measureWindow(const Resources& resources, double startedAt);
+// Prints its rows; returns an exit status.
+int measureWindow(const Resources& resources);
 
 } // namespace vorbel::bench
