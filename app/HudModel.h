@@ -1,6 +1,7 @@
 // What the heads-up display shows, ready to be laid out.
 #pragma once
 
+#include "app/Fonts.h"
 #include "engine/GameLogic.h"
 
 #include <QObject>
@@ -62,7 +63,7 @@ public:
     [[nodiscard]] const QString& difficultyCaption() const { return contents_.difficultyCaption; }
     [[nodiscard]] const QStringList& difficultyTitles() const { return difficultyTitles_; } // easiest first
     [[nodiscard]] const QString& message() const { return contents_.message; }
-    [[nodiscard]] bool rightToLeft() const { return language_ == AppLanguage::ar; }
+    [[nodiscard]] bool rightToLeft() const { return isRightToLeft(language_); }
     [[nodiscard]] const QString& powerCaption() const { return contents_.powerCaption; }
     [[nodiscard]] bool powerShown() const { return gauge_.shown; } // while the power swings
     [[nodiscard]] double power() const { return gauge_.power; }    // percent, about 10 … 100

@@ -3,6 +3,9 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <limits>
 
 namespace vorbel {
 
@@ -20,10 +23,26 @@ double toNumber(std::chrono::system_clock::time_point date) {
     return (std::chrono::duration_cast<Seconds>(date.time_since_epoch()) - referenceDate).count();
 }
 
+// A date that the clock cannot hold becomes the nearest one that it can, 250 years from its epoch.
 std::chrono::system_clock::time_point fromNumber(double secondsSinceReference) {
-    const Seconds sinceEpoch = referenceDate + Seconds(secondsSinceReference);
-    return std::chrono::system_clock::time_point(
-        std::chrono::duration_cast<std::chrono::system_clock::duration>(sinceEpoch));
+    using Clock = std::chrono::system_clock;
+    constexpr Seconds farthest = std::chrono::hours(24 * 365 * 250);
+    static_assert(farthest < Clock::duration::max());
+    const Seconds sinceEpoch =
+        std::clamp(referenceDate + Seconds(secondsSinceReference), -farthest, farthest);
+    return Clock::time_point(std::chrono::duration_cast<Clock::duration>(sinceEpoch));
+}
+
+// 8-4-4-4-12 hexadecimal digits.
+bool isUuid(std::string_view text) {
+    constexpr std::string_view form = "00000000-0000-0000-0000-000000000000";
+    return std::ranges::equal(text, form, [](char c, char place) {
+        return place == '-' ? c == '-' : std::isxdigit(static_cast<unsigned char>(c)) != 0;
+    });
+}
+
+bool isInt(const ordered_json& number) {
+    return number.is_number_integer() && std::abs(number.get<double>()) <= std::numeric_limits<int>::max();
 }
 
 bool isEntry(const ordered_json& value) {
@@ -32,8 +51,9 @@ bool isEntry(const ordered_json& value) {
         return found != value.end() && ((*found).*isOfType)();
     };
     return value.is_object() && has("id", &ordered_json::is_string) &&
-           has("date", &ordered_json::is_number) && has("resultKey", &ordered_json::is_string) &&
-           has("xpGained", &ordered_json::is_number_integer);
+           isUuid(value["id"].get_ref<const std::string&>()) && has("date", &ordered_json::is_number) &&
+           has("resultKey", &ordered_json::is_string) && value.contains("xpGained") &&
+           isInt(value["xpGained"]);
 }
 
 } // namespace

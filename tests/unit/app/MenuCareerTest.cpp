@@ -96,7 +96,9 @@ TEST_F(MenuCareerTest, TheDiaryShowsTheNewestMatchFirst) {
 }
 
 TEST_F(MenuCareerTest, ADateIsShownInTheSystemsShortForm) {
-    defaults.setBytes("boccia_diaryData", R"([{"id":"A","date":0,"resultKey":"diary.draw","xpGained":0}])");
+    defaults.setBytes(
+        "boccia_diaryData",
+        R"([{"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":0,"resultKey":"diary.draw","xpGained":0}])");
     view.menu()->openDiary();
     const QDateTime start = QDateTime(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC).toLocalTime();
     const QLocale system = QLocale::system();

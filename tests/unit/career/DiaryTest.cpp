@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <regex>
 #include <set>
 
@@ -32,19 +33,39 @@ TEST(DiaryTest, ReadsBackWhatItWrote) {
 
 TEST(DiaryTest, IgnoresMembersItDoesNotKnow) {
     EXPECT_EQ(
-        decodeDiary(R"([{"id":"A","date":0,"resultKey":"diary.loss","xpGained":0,"mood":"fine"}])").size(),
+        decodeDiary(
+            R"([{"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":0,"resultKey":"diary.loss","xpGained":0,"mood":"fine"}])")
+            .size(),
         1U);
 }
 
 TEST(DiaryTest, AMissingMemberOrOneOfAWrongTypeSpoilsTheWholeDiary) {
-    const std::string good = R"({"id":"A","date":0,"resultKey":"diary.loss","xpGained":0})";
-    for (const char* bad : {R"({"date":0,"resultKey":"diary.loss","xpGained":0})",
-                            R"({"id":"A","resultKey":"diary.loss","xpGained":0})",
-                            R"({"id":"A","date":"today","resultKey":"diary.loss","xpGained":0})",
-                            R"({"id":"A","date":0,"resultKey":7,"xpGained":0})",
-                            R"({"id":"A","date":0,"resultKey":"x","xpGained":0.5})",
-                            R"({"id":"A","date":0,"resultKey":"x"})", "7", "null", "[]"}) {
+    const std::string good =
+        R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":0,"resultKey":"diary.loss","xpGained":0})";
+    for (
+        const char* bad :
+        {R"({"date":0,"resultKey":"diary.loss","xpGained":0})",
+         R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","resultKey":"diary.loss","xpGained":0})",
+         R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":"today","resultKey":"diary.loss","xpGained":0})",
+         R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":0,"resultKey":7,"xpGained":0})",
+         R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":0,"resultKey":"x","xpGained":0.5})",
+         R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":0,"resultKey":"x","xpGained":3000000000})",
+         R"({"id":"17","date":0,"resultKey":"x","xpGained":0})",
+         R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6G","date":0,"resultKey":"x","xpGained":0})",
+         R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":0,"resultKey":"x"})", "7", "null", "[]"}) {
         EXPECT_TRUE(decodeDiary("[" + good + "," + bad + "]").empty()) << bad;
+    }
+}
+
+TEST(DiaryTest, ADateFarBeyondTheClockIsTheFarthestThatTheClockKnows) {
+    for (const char* date : {"1e300", "-1e300"}) {
+        const auto entries = decodeDiary(R"([{"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":)" +
+                                         std::string(date) + R"(,"resultKey":"diary.win","xpGained":1}])");
+        ASSERT_EQ(entries.size(), 1U);
+        const double years =
+            std::chrono::duration<double>(entries[0].date - startOf2001).count() / 31556952.0;
+        EXPECT_GT(std::abs(years), 200) << date;
+        EXPECT_EQ(years > 0, date[0] != '-');
     }
 }
 
