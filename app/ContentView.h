@@ -55,7 +55,6 @@ public:
     [[nodiscard]] MenuModel* menu() { return &menu_; }
 
     // --- app/Settings.cpp: each change reaches the match a moment later, from the main queue
-    // ------------------------
 
     [[nodiscard]] bool redAIOn() const { return redAIOn_; }
     [[nodiscard]] bool blueAIOn() const { return blueAIOn_; }
@@ -64,9 +63,7 @@ public:
     [[nodiscard]] MenuScreen menuScreen() const { return menuScreen_; }
     [[nodiscard]] Country selectedCountry() const { return selectedCountry_; }
     [[nodiscard]] BocciaClass selectedClass() const { return selectedClass_; }
-    [[nodiscard]] bool startingTournament() const {
-        return startingTournament_;
-    } // rather than a single match
+    [[nodiscard]] bool startingTournament() const { return startingTournament_; } // not a single match
     [[nodiscard]] AppLanguage selectedLanguage() const { return selectedLanguage_; }
     [[nodiscard]] QString fontFamily() const; // for texts in that language
 
@@ -81,7 +78,6 @@ public:
     void setSelectedLanguage(AppLanguage language); // kept in the defaults
 
     // --- app/Keyboard.cpp: the game's keys, which do nothing at all while a menu is open
-    // -----------------------------
 
     Q_INVOKABLE void pressAction();
     Q_INVOKABLE void pressLeft();
@@ -91,7 +87,6 @@ public:
     Q_INVOKABLE void pressExitFullScreen(); // acts in every state
 
     // --- app/MatchEnd.cpp
-    // ----------------------------------------------------------------------------------------
 
     // Read from the defaults each time: another running game may have added to them.
     [[nodiscard]] int gamesPlayed() const;
@@ -102,7 +97,6 @@ public:
     void setRealAthlete(bool is); // kept in the defaults
 
     // --- app/Notifications.cpp
-    // ------------------------------------------------------------------------------------
 
     // Call once: from now on each of the shell's notifications opens its screen. The centre must outlive the
     // view.

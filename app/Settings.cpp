@@ -21,8 +21,8 @@ void ContentView::setBlueAIOn(bool on) {
         return;
     }
     later([this, on] {
-        if (gameLogic_.blueIsAI !=
-            on) { // a tournament that has just begun has announced blue's country already
+        // A tournament that has just begun has set this, and announced blue's country, already.
+        if (gameLogic_.blueIsAI != on) {
             gameLogic_.blueIsAI = on;
         }
     });

@@ -42,12 +42,11 @@ public:
     GameLogic& operator=(const GameLogic&) = delete;
 
     // --- State
-    // ------------------------------------------------------------------------------------------------
 
     Scene scene; // built once; later only balls come and go and the pointer moves
 
-    Published<std::string> message{
-        "Нажмите [ПРОБЕЛ] для начала прицеливания"}; // in Russian until a rule sets it
+    // In Russian until a rule sets it.
+    Published<std::string> message{"Нажмите [ПРОБЕЛ] для начала прицеливания"};
     Published<AimState> aimState{AimState::idle};
     Published<GamePhase> phase{GamePhase::throwingJack};
     Published<BallColor> currentTurn{BallColor::red}; // red or blue
@@ -60,8 +59,8 @@ public:
     Published<bool> tournamentActive{false};
     Published<int> tournamentRound{0}; // 1 … 4 while a tournament runs
     Published<AppLanguage> language{AppLanguage::ru};
-    Published<int> redBallsLeft{
-        ballsPerSide}; // colour balls still to be thrown, or not yet at rest, in this end
+    // Colour balls still to be thrown, or not yet at rest, in this end.
+    Published<int> redBallsLeft{ballsPerSide};
     Published<int> blueBallsLeft{ballsPerSide};
     Published<int> redScore{0};
     Published<int> blueScore{0};
@@ -74,7 +73,6 @@ public:
     Node::Ptr activeBallNode; // the ball waiting in the throwing box; null between a throw and the next spawn
 
     // --- engine/GameLogic.cpp
-    // ---------------------------------------------------------------------------------
 
     [[nodiscard]] bool isCurrentTurnAI() const;
     [[nodiscard]] std::string t(std::string_view key) const;
@@ -82,7 +80,6 @@ public:
                                 std::initializer_list<std::string_view> arguments) const;
 
     // --- engine/Aiming.cpp: the human thrower's side of a throw
-    // ---------------------------------------------------
 
     void startAimingLoop(); // starts, or restarts, the 20 ms tick that moves physics, power and settling
     void stopAimingLoop();
@@ -94,7 +91,6 @@ public:
     void processInput(); // the one action key: next stage of the throw, next end, next match
 
     // --- engine/Throwing.cpp
-    // --------------------------------------------------------------------------------------
 
     // Where a side's balls wait and are thrown from, at the height of a resting ball's centre.
     [[nodiscard]] static Vec3 throwOrigin(BallColor side);
@@ -102,15 +98,14 @@ public:
     void throwActiveBall(); // launches the waiting ball along the aim; nothing without one
 
     // --- engine/Settling.cpp
-    // --------------------------------------------------------------------------------------
 
-    void
-    checkPhysics(); // one tick of a running throw: hands over when all balls rest, at the latest after 3 s
-    void physicsWorldDidBegin(const Node& nodeA,
-                              const Node& nodeB); // clicks when two balls strike each other
+    // One tick of a running throw: hands over when all balls rest, at the latest after 3 s.
+    void checkPhysics();
+
+    // Clicks when two balls strike each other.
+    void physicsWorldDidBegin(const Node& nodeA, const Node& nodeB);
 
     // --- engine/EndFlow.cpp
-    // ---------------------------------------------------------------------------------------
 
     void handleTurnTransition(); // after every throw: judges it and prepares the next one, or ends the end
     void determineNextTurn();    // the side that is not closest to the jack throws; ties go to red
@@ -121,7 +116,6 @@ public:
     void startNewEnd(); // with a jack throw by the side whose end it is
 
     // --- engine/Scoring.cpp
-    // ---------------------------------------------------------------------------------------
 
     void calculateScore();   // scores the end and decides how the match goes on; nothing without a jack
     void startTieBreakEnd(); // an extra end with the jack on the cross
@@ -129,7 +123,6 @@ public:
     [[nodiscard]] std::string matchWinnerTitle() const; // names blue when the scores are equal
 
     // --- engine/AITurn.cpp, engine/AITarget.cpp: the computer opponent
-    // --------------------------------------------
 
     struct AITarget {
         Vec3 point;
@@ -143,7 +136,6 @@ public:
     [[nodiscard]] Vec3 extendTarget(const Vec3& target, double beyondBy) const;
 
     // --- career/Tournament.cpp
-    // ------------------------------------------------------------------------------------
 
     void startTournament(Country country);
     void advanceTournament(); // after a match: next round, champion or eliminated
@@ -151,7 +143,6 @@ public:
     [[nodiscard]] Country randomOpponent(Country excluded);
 
     // --- scene/: builders of the arena (make… returns a node for the caller to add), and its sounds
-    // -----------------
 
     // Court.cpp. The random source dresses the stands: differently in every run of the game.
     [[nodiscard]] static Scene create3DScene(RandomSource& random);
