@@ -24,7 +24,7 @@ void playMatch(benchmark::State& state) {
     // How many times faster than real time.
     state.counters["speed-up"] = benchmark::Counter(simulated, benchmark::Counter::kIsRate);
 }
-BENCHMARK(playMatch)->Unit(benchmark::kMillisecond);
+BENCHMARK(playMatch)->Name("match between hard and medium without a window")->Unit(benchmark::kMillisecond);
 
 void buildScene(benchmark::State& state) {
     SeededRandom random(1);
@@ -32,6 +32,6 @@ void buildScene(benchmark::State& state) {
         benchmark::DoNotOptimize(GameLogic::create3DScene(random));
     }
 }
-BENCHMARK(buildScene)->Unit(benchmark::kMicrosecond);
+BENCHMARK(buildScene)->Name("arena built")->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -62,7 +62,13 @@ void rollingTick(benchmark::State& state) {
         world.step(tick);
     }
 }
-BENCHMARK(rollingTick)->ArgName("balls")->Arg(1)->Arg(3)->Arg(13)->Unit(benchmark::kMicrosecond);
+BENCHMARK(rollingTick)
+    ->Name("tick of physics")
+    ->ArgName("balls rolling")
+    ->Arg(1)
+    ->Arg(3)
+    ->Arg(13)
+    ->Unit(benchmark::kMicrosecond);
 
 void restingTick(benchmark::State& state) {
     Court court;
@@ -74,7 +80,7 @@ void restingTick(benchmark::State& state) {
         world.step(tick);
     }
 }
-BENCHMARK(restingTick)->Unit(benchmark::kMicrosecond);
+BENCHMARK(restingTick)->Name("tick of physics with all at rest")->Unit(benchmark::kMicrosecond);
 
 // A throw swaps a body, which makes the world anew.
 void bodySwap(benchmark::State& state) {
@@ -85,7 +91,7 @@ void bodySwap(benchmark::State& state) {
         world.step(tick);
     }
 }
-BENCHMARK(bodySwap)->Unit(benchmark::kMicrosecond);
+BENCHMARK(bodySwap)->Name("tick of physics with a body swapped")->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

@@ -43,15 +43,7 @@ bool Layer::resize(QOpenGLExtraFunctions& gl, int width, int height) {
     }
     width_ = width;
     height_ = height;
-    texture_ = newTexture(gl);
-    framebuffer_ = newFramebuffer(gl);
-    gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
-    gl.glBindTexture(GL_TEXTURE_2D, texture_.id());
-    gl.glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, width, height, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
-    gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-    gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
-    gl.glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_.id());
-    gl.glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, texture_.id(), 0);
+    picture_ = TextureTarget::create(gl, GL_RGBA8, GL_UNSIGNED_BYTE, width, height);
     return true;
 }
 
@@ -66,7 +58,7 @@ void Layer::put(QOpenGLExtraFunctions& gl, std::span<const Piece> pieces, GLuint
                                        static_cast<float>(piece.left - part.left),
                                        static_cast<float>(piece.bottom - part.bottom)});
     }
-    gl.glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_.id());
+    gl.glBindFramebuffer(GL_FRAMEBUFFER, picture_.framebuffer.id());
     gl.glViewport(0, 0, width_, height_);
     gl.glDisable(GL_CULL_FACE);
     gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
@@ -89,7 +81,7 @@ void Layer::show(QOpenGLExtraFunctions& gl, GLuint framebuffer) {
         return;
     }
     // A plain copy, many times faster than shading without graphics hardware.
-    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer_.id());
+    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, picture_.framebuffer.id());
     gl.glBlitFramebuffer(0, 0, width_, height_, 0, 0, width_, height_, GL_COLOR_BUFFER_BIT, GL_NEAREST);
     gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer);
 }
@@ -101,7 +93,7 @@ void Layer::showByShader(QOpenGLExtraFunctions& gl) {
     }
     gl.glDisable(GL_CULL_FACE);
     gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
-    gl.glBindTexture(GL_TEXTURE_2D, texture_.id());
+    gl.glBindTexture(GL_TEXTURE_2D, picture_.texture.id());
     copy_.value().use(gl);
     gl.glBindVertexArray(emptyArray_.id());
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);

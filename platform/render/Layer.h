@@ -3,6 +3,7 @@
 
 #include "platform/render/Regions.h"
 #include "platform/render/ShaderProgram.h"
+#include "platform/render/TextureTarget.h"
 
 #include <memory>
 #include <span>
@@ -33,8 +34,7 @@ private:
     GlObject pieces_;
     GlObject pieceArray_;
     GlObject emptyArray_; // the triangle over the whole picture makes its corners in the shader
-    GlObject texture_;
-    GlObject framebuffer_;
+    TextureTarget picture_;
     int width_ = 0;
     int height_ = 0;
     std::vector<float> places_;

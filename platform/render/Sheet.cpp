@@ -1,7 +1,5 @@
 #include "platform/render/Sheet.h"
 
-#include "platform/render/ShaderProgram.h"
-
 #include <algorithm>
 
 namespace vorbel {
@@ -25,8 +23,6 @@ bool Sheet::resize(QOpenGLExtraFunctions& gl, int width, int height) {
     color_ = newRenderbuffer(gl);
     depth_ = newRenderbuffer(gl);
     framebuffer_ = newFramebuffer(gl);
-    resolved_ = newTexture(gl);
-    resolvedFramebuffer_ = newFramebuffer(gl);
 
     GLint most = 0;
     gl.glGetIntegerv(GL_MAX_SAMPLES, &most);
@@ -41,13 +37,7 @@ bool Sheet::resize(QOpenGLExtraFunctions& gl, int width, int height) {
     gl.glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_STENCIL_ATTACHMENT, GL_RENDERBUFFER, depth_.id());
     const bool complete = isComplete(gl);
 
-    gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
-    gl.glBindTexture(GL_TEXTURE_2D, resolved_.id());
-    gl.glTexImage2D(GL_TEXTURE_2D, 0, colorFormat, width, height, 0, GL_RGBA, GL_HALF_FLOAT, nullptr);
-    gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-    gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
-    gl.glBindFramebuffer(GL_FRAMEBUFFER, resolvedFramebuffer_.id());
-    gl.glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, resolved_.id(), 0);
+    resolved_ = TextureTarget::create(gl, colorFormat, GL_HALF_FLOAT, width, height);
     if (!complete || !isComplete(gl)) {
         *this = {};
         return false;
@@ -63,10 +53,10 @@ void Sheet::beginDrawing(QOpenGLExtraFunctions& gl) const {
 
 GLuint Sheet::resolve(QOpenGLExtraFunctions& gl, const PixelRect& part) const {
     gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer_.id());
-    gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, resolvedFramebuffer_.id());
+    gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, resolved_.framebuffer.id());
     gl.glBlitFramebuffer(part.left, part.bottom, part.right, part.top, part.left, part.bottom, part.right,
                          part.top, GL_COLOR_BUFFER_BIT, GL_NEAREST);
-    return resolved_.id();
+    return resolved_.texture.id();
 }
 
 } // namespace vorbel

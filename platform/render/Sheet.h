@@ -1,8 +1,8 @@
 // The multisampled picture in linear light that regions are drawn into.
 #pragma once
 
-#include "platform/render/GlObject.h"
 #include "platform/render/PixelRect.h"
+#include "platform/render/TextureTarget.h"
 
 namespace vorbel {
 
@@ -26,8 +26,7 @@ private:
     GlObject color_;
     GlObject depth_;
     GlObject framebuffer_;
-    GlObject resolved_;
-    GlObject resolvedFramebuffer_;
+    TextureTarget resolved_;
 };
 
 } // namespace vorbel
