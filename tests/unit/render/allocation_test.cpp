@@ -1,32 +1,9 @@
 // Frames are copied and followed for hours: that must not take memory each time.
 #include "platform/render/TrackedFrame.h"
 #include "platform/scenegraph/Scene.h"
-
-#include <atomic>
-#include <cstdlib>
-#include <new>
+#include "tests/unit/render/AllocationCounter.h"
 
 #include <gtest/gtest.h>
-
-namespace {
-
-std::atomic<int> allocations = 0; // of this test program, all threads
-
-} // namespace
-
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size > 0 ? size : 1)) { // NOLINT(cppcoreguidelines-no-malloc)
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc)
-}
-void operator delete(void* memory, std::size_t /*size*/) noexcept {
-    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc)
-}
 
 namespace vorbel {
 namespace {
@@ -62,20 +39,20 @@ struct Stand {
 };
 
 TEST(Allocation, CountsWhatIsTaken) {
-    const int before = allocations;
+    const int before = allocationCount();
     const auto taken = std::make_unique<int>(1);
-    EXPECT_EQ(allocations, before + 1) << *taken;
+    EXPECT_EQ(allocationCount(), before + 1) << *taken;
 }
 
 TEST(Allocation, CopyingAMovingSceneTakesNoMemory) {
     Stand stand;
     Frame frame = makeFrame(stand.scene, 1);
-    const int before = allocations;
+    const int before = allocationCount();
     for (int tick = 0; tick < 10; ++tick) {
         stand.roll(0.02);
         copyScene(stand.scene, 0.5, frame);
     }
-    EXPECT_EQ(allocations, before);
+    EXPECT_EQ(allocationCount(), before);
     EXPECT_EQ(frame.items.size(), 17U);
 }
 
@@ -87,13 +64,13 @@ TEST(Allocation, FollowingAMovingSceneTakesNoMemoryAfterTheFirstMovement) {
     stand.roll(0.02);
     copyScene(stand.scene, 1, frame);
     tracked.follow(frame, 600, 400);
-    const int before = allocations;
+    const int before = allocationCount();
     for (int tick = 0; tick < 10; ++tick) {
         stand.roll(0.02);
         copyScene(stand.scene, 1, frame);
         EXPECT_FALSE(tracked.follow(frame, 600, 400).nothing());
     }
-    EXPECT_EQ(allocations, before);
+    EXPECT_EQ(allocationCount(), before);
 }
 
 } // namespace

@@ -1,0 +1,33 @@
+// Replaces the allocation functions of the whole program. They are in a file of their own so that no compiler
+// sees through one of a pair only.
+#include "tests/unit/render/AllocationCounter.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+std::atomic<int> allocations = 0;
+
+} // namespace
+
+// NOLINTBEGIN(cppcoreguidelines-no-malloc)
+void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size > 0 ? size : 1)) {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory);
+}
+// NOLINTEND(cppcoreguidelines-no-malloc)
+
+int vorbel::allocationCount() {
+    return allocations;
+}
