@@ -13,9 +13,12 @@ std::atomic<int> allocations = 0;
 } // namespace
 
 // NOLINTBEGIN(cppcoreguidelines-no-malloc)
-void* operator new(std::size_t size) {
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
     ++allocations;
-    if (void* memory = std::malloc(size > 0 ? size : 1)) {
+    return std::malloc(size > 0 ? size : 1);
+}
+void* operator new(std::size_t size) {
+    if (void* memory = operator new(size, std::nothrow)) {
         return memory;
     }
     throw std::bad_alloc();
@@ -24,6 +27,9 @@ void operator delete(void* memory) noexcept {
     std::free(memory);
 }
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept {
     std::free(memory);
 }
 // NOLINTEND(cppcoreguidelines-no-malloc)
