@@ -11,12 +11,13 @@
 
 namespace vorbel {
 
-// Current from the start. Needs a QGuiApplication.
+// Current from the start, with OpenGL 3.3 unless the default format asks for OpenGL ES. Needs a
+// QGuiApplication.
 class OffscreenTarget {
 public:
     OffscreenTarget(int width, int height) {
         QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-        if (QOpenGLContext::openGLModuleType() != QOpenGLContext::LibGLES) {
+        if (format.renderableType() != QSurfaceFormat::OpenGLES) {
             format.setVersion(3, 3);
             format.setProfile(QSurfaceFormat::CoreProfile);
         }

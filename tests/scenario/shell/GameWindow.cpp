@@ -46,10 +46,17 @@ std::optional<GameWindow> GameWindow::find() {
     if (!Desktop::instance().focusGame()) {
         return std::nullopt;
     }
-    const QString found = xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                   QStringLiteral("--name"), QStringLiteral("^VORBEL$")});
-    const QString id = found.trimmed().section(QLatin1Char('\n'), -1);
-    return id.isEmpty() ? std::nullopt : std::optional(GameWindow(id));
+    // A window manager that has just started takes the window off the screen for a moment.
+    QString id;
+    const bool isShown = waitUntil(
+        [&id] {
+            const QString found = xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                           QStringLiteral("--name"), QStringLiteral("^VORBEL$")});
+            id = found.trimmed().section(QLatin1Char('\n'), -1);
+            return !id.isEmpty();
+        },
+        10'000);
+    return isShown ? std::optional(GameWindow(id)) : std::nullopt;
 }
 
 QRect GameWindow::frame() const {
