@@ -98,8 +98,7 @@ public:
 
     // --- app/Notifications.cpp
 
-    // Call once: from now on each of the shell's notifications opens its screen. The centre must outlive the
-    // view.
+    // Call once: from now on each of the shell's notifications opens its screen.
     void receiveNotifications(NotificationCenter& center);
 
 signals:

@@ -23,6 +23,8 @@ class ChangesTest : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(target.works()) << "no OpenGL";
+        ASSERT_EQ(QOpenGLContext::currentContext()->isOpenGLES(),
+                  qEnvironmentVariableIsSet("VORBEL_OPENGL_ES"));
         changes = create(Redraw::changes);
         all = create(Redraw::all);
         ASSERT_TRUE(changes && all);
