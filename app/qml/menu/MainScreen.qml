@@ -16,7 +16,7 @@ MenuBackdrop {
     Image {
         source: screen.menu.logo
         visible: status === Image.Ready
-        sourceSize: Qt.size(128 * Screen.devicePixelRatio, 96 * Screen.devicePixelRatio)
+        sourceSize { width: 128 * Screen.devicePixelRatio; height: 96 * Screen.devicePixelRatio }
         fillMode: Image.PreserveAspectFit
         Layout.preferredHeight: 96
         Layout.preferredWidth: 128
