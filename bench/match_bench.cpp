@@ -1,4 +1,5 @@
-// How fast matches are played without a window.
+// How fast the game does without a window what a player would wait for.
+#include "career/Diary.h"
 #include "tools/sim/MatchPlayer.h"
 
 #include <benchmark/benchmark.h>
@@ -33,5 +34,16 @@ void buildScene(benchmark::State& state) {
     }
 }
 BENCHMARK(buildScene)->Name("arena built")->Unit(benchmark::kMicrosecond);
+
+void readDiary(benchmark::State& state) {
+    constexpr std::size_t entries = 100'000;
+    SeededRandom random(1);
+    const std::string json =
+        encodeDiary(std::vector<DiaryEntry>(entries, {randomUuid(random), {}, "diary.win", 1}));
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(decodeDiary(json));
+    }
+}
+BENCHMARK(readDiary)->Name("diary of 100000 entries read")->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -112,7 +112,7 @@ private:
     }
 
     // Turns the node's −z axis towards its look-at target; without a target the matrix stays.
-    Mat4 aimed(const Node& node, const Mat4& world) const {
+    [[nodiscard]] Mat4 aimed(const Node& node, const Mat4& world) const {
         const Node::Ptr target = node.lookAtTarget.lock();
         const auto goal = target ? positionBelow(*scene_.root, Mat4(1), *target, fraction_) : std::nullopt;
         const Vec3 from(world[3]);

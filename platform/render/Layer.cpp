@@ -11,7 +11,7 @@ constexpr int offsetFloats = 2; // from there to the place in the sheet, pixels
 constexpr int pieceFloats = partFloats + offsetFloats;
 
 void setAttribute(QOpenGLExtraFunctions& gl, GLuint location, int components, int first) {
-    const auto offset = reinterpret_cast<const void*>( // the call's way to say a number
+    const auto* offset = reinterpret_cast<const void*>( // the call's way to say a number
         static_cast<std::uintptr_t>(first) * sizeof(float));
     gl.glVertexAttribPointer(location, components, GL_FLOAT, GL_FALSE, pieceFloats * sizeof(float), offset);
     gl.glEnableVertexAttribArray(location);

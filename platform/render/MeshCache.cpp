@@ -31,7 +31,7 @@ constexpr Attribute instanceAttributes[] = {
 
 void setPointer(QOpenGLExtraFunctions& gl, const Attribute& attribute, std::size_t stride,
                 std::size_t start) {
-    const auto offset =
+    const auto* offset =
         reinterpret_cast<const void*>(start + attribute.offset); // the call's way to say a number
     gl.glVertexAttribPointer(attribute.location, attribute.components, GL_FLOAT, GL_FALSE,
                              static_cast<GLsizei>(stride), offset);

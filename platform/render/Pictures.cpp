@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 
 #include <QImage>
@@ -28,7 +29,7 @@ LightTable makeLightTable() {
 }
 
 uchar encodedByte(float light) {
-    return static_cast<uchar>(255 * encodedLight(light) + 0.5F);
+    return static_cast<uchar>(std::lround(255 * encodedLight(light)));
 }
 
 // Multiplies the light, not its encoding, by alpha; only the pixels of the outline cost time.
