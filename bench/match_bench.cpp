@@ -13,7 +13,7 @@ using namespace vorbel::sim;
 void playMatch(benchmark::State& state) {
     std::uint64_t seed = 1;
     double simulated = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         MatchPlayer match({.seed = seed++, .red = AIDifficulty::hard, .blue = AIDifficulty::medium});
         if (!match.play()) {
             state.SkipWithError("a match did not end");
@@ -29,7 +29,7 @@ BENCHMARK(playMatch)->Name("match between hard and medium without a window")->Un
 
 void buildScene(benchmark::State& state) {
     SeededRandom random(1);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(GameLogic::create3DScene(random));
     }
 }
@@ -40,7 +40,7 @@ void readDiary(benchmark::State& state) {
     SeededRandom random(1);
     const std::string json =
         encodeDiary(std::vector<DiaryEntry>(entries, {randomUuid(random), {}, "diary.win", 1}));
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(decodeDiary(json));
     }
 }

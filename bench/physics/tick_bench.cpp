@@ -55,7 +55,7 @@ void rollingTick(benchmark::State& state) {
     Court court;
     PhysicsWorld world(court.scene);
     int ticks = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         if (ticks++ % 100 == 0) {
             court.roll(static_cast<int>(state.range(0)));
         }
@@ -76,7 +76,7 @@ void restingTick(benchmark::State& state) {
     for (int i = 0; i < 10; ++i) {
         world.step(tick);
     }
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         world.step(tick);
     }
 }
@@ -86,7 +86,7 @@ BENCHMARK(restingTick)->Name("tick of physics with all at rest")->Unit(benchmark
 void bodySwap(benchmark::State& state) {
     Court court;
     PhysicsWorld world(court.scene);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         court.balls[0]->body = std::make_shared<PhysicsBody>(*court.balls[0]->body);
         world.step(tick);
     }

@@ -51,7 +51,7 @@ TEST_F(MirrorTest, FloorIsLitAndShadedLikeOtherSurfaces) {
     floor->geometry->shape = Floor{0};
     floor->geometry->material.diffuse = {0.5F, 0.5F, 0.5F};
     add(Sphere{0.3}, {.diffuse = colors::black}, {0, 1.2, 0});
-    const double grey = static_cast<double>(linearLight(0.5F));
+    const auto grey = static_cast<double>(linearLight(0.5F));
     const QImage image = draw();
     EXPECT_NEAR(lightAt(image, {0, 0, 0}), grey * 0.15, 0.01);
     EXPECT_GT(lightAt(image, {1, 0, 0}), grey * 1.5);

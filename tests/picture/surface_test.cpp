@@ -26,7 +26,7 @@ TEST_F(SurfaceTest, TintLetsTheFloorShowThrough) {
 TEST_F(SurfaceTest, NearerTintLiesOverTheFartherOneInAnyOrder) {
     add(Plane{1, 1}, unlit(colors::white.withAlpha(0.5F)), {0, 0, 0.02});
     add(Plane{1, 1}, unlit(colors::systemRed.withAlpha(0.5F)), {0, 0, 0.01});
-    const double red = static_cast<double>(linearLight(colors::systemRed.green));
+    const auto red = static_cast<double>(linearLight(colors::systemRed.green));
     EXPECT_NEAR(lightAt(draw(), {0, 0, 0.02}), 0.5 + 0.5 * 0.5 * red, 0.01);
 }
 

@@ -7,8 +7,6 @@
 
 namespace vorbel::test {
 
-using std::numbers::pi;
-
 class ArenaTest : public MatchTest {
 protected:
     ArenaTest() { humanAgainstHuman(); }

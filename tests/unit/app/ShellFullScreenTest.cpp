@@ -23,12 +23,12 @@ public:
     std::vector<QRect> allScreens{laptop};
     int changes = 0;
 
-    bool isShown() const override { return shown; }
-    QRect frame() const override { return ownFrame; }
-    WindowStyle style() const override { return ownStyle; }
-    QRect screen() const override { return ownScreen; }
-    std::vector<QRect> screens() const override { return allScreens; }
-    WindowStyle coveringStyle() const override { return covering; }
+    [[nodiscard]] bool isShown() const override { return shown; }
+    [[nodiscard]] QRect frame() const override { return ownFrame; }
+    [[nodiscard]] WindowStyle style() const override { return ownStyle; }
+    [[nodiscard]] QRect screen() const override { return ownScreen; }
+    [[nodiscard]] std::vector<QRect> screens() const override { return allScreens; }
+    [[nodiscard]] WindowStyle coveringStyle() const override { return covering; }
     void setStyle(const WindowStyle& style) override {
         ownStyle = style;
         ++changes;

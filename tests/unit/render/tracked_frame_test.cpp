@@ -15,11 +15,11 @@ protected:
     TrackedFrameTest() {
         frame.camera.world = glm::translate(glm::mat4(1), {0, 1, 0});
         frame.spot = SpotLight{.position = {0, 12, -6}, .castsShadow = true, .shadowMapSize = 1024};
-        frame.items = {{&nodes[0], Floor{0.05}, {}, glm::mat4(1), 1}, ballAt(1, -4), ballAt(2, -8)};
+        frame.items = {{nodes.data(), Floor{0.05}, {}, glm::mat4(1), 1}, ballAt(1, -4), ballAt(2, -8)};
         tracked.follow(frame, width, height);
     }
 
-    DrawItem ballAt(std::size_t node, float z) const {
+    [[nodiscard]] DrawItem ballAt(std::size_t node, float z) const {
         const glm::mat4 place = glm::translate(glm::mat4(1), {0, 0.1F, z});
         return {&nodes[node], Sphere{1}, {}, glm::scale(place, glm::vec3(0.1F)), 1};
     }
