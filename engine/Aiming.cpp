@@ -46,6 +46,7 @@ void GameLogic::tick() {
     scene.advanceAnimations(tickPeriod);
     physicsWorld_.step(tickPeriod);
     updateAiming();
+    tickObservers_.tell();
 }
 
 void GameLogic::updateAiming() {

@@ -83,6 +83,10 @@ public:
 
     void startAimingLoop(); // starts, or restarts, the 20 ms tick that moves physics, power and settling
     void stopAimingLoop();
+    // Calls the observer after each tick, when physics and rules have moved on.
+    [[nodiscard]] Subscription onTick(std::function<void()> observer) {
+        return tickObservers_.add(std::move(observer));
+    }
     void updateAiming(); // one tick of the rules, without physics
     void moveAimLeft();  // the four aiming keys act only while a human sets the angle
     void moveAimRight();
@@ -204,6 +208,7 @@ private:
     int jackThrowAttempts_ = 0;                // in this end
     double powerDirection_ = 1;                // +1 or −1
     int ticksSinceThrown_ = 0;
+    Observers<> tickObservers_;
     Subscription timer_;
     Lifetime lifetime_;
 };

@@ -222,6 +222,18 @@ TEST_F(AimingTest, AMatchWithoutAPointerCanBePlayed) {
     EXPECT_EQ(game.phase, GamePhase::playing);
 }
 
+TEST_F(AimingTest, EveryTickIsAnnouncedWhenItsWorkIsDone) {
+    aimAt(AimState::aimingPower);
+    game.aimPower = 50.0;
+    std::vector<double> seen;
+    Subscription watch = game.onTick([&] { seen.push_back(game.aimPower); });
+    ticks(2);
+    EXPECT_EQ(seen, (std::vector{50.6, 51.2}));
+    watch.cancel();
+    ticks(1);
+    EXPECT_EQ(seen.size(), 2U);
+}
+
 TEST_F(AimingTest, AStoppedLoopSwingsNothing) {
     aimAt(AimState::aimingPower);
     game.stopAimingLoop();
