@@ -1,7 +1,7 @@
 #include "bench/render/window_bench.h"
 
-#include "app/ContentView.h"
-#include "app/Display.h"
+#include "app/window/ContentView.h"
+#include "app/window/Display.h"
 #include "bench/render/Figures.h"
 #include "platform/runloop/QtMainQueue.h"
 #include "platform/store/MemoryDefaults.h"

@@ -1,5 +1,5 @@
 // Every character of the program is in one of the fonts that the program asks for.
-#include "app/Fonts.h"
+#include "app/text/Fonts.h"
 #include "l10n/Country.h"
 #include "l10n/Keys.h"
 #include "l10n/L10n.h"

@@ -34,7 +34,7 @@ MenuWindow::MenuWindow(const Resources& resources) : view_(withResources(platfor
         }
     });
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Vorbel/qml/Main.qml")));
+    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Vorbel/qml/window/Main.qml")));
     window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().value(0));
     if (window_ == nullptr) {
         throw std::runtime_error("the window cannot be made");

@@ -1,9 +1,9 @@
 // The game's real window with its menu, in this process, on a clock that moves only when told to.
 #pragma once
 
-#include "app/ContentView.h"
-#include "app/VorbelApp.h"
 #include "app/shell/NotificationCenter.h"
+#include "app/shell/VorbelApp.h"
+#include "app/window/ContentView.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/store/MemoryDefaults.h"
 

@@ -1,4 +1,4 @@
-#include "app/CommandLine.h"
+#include "app/command_line/CommandLine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "app/Texts.h"
+#include "app/text/Texts.h"
 #include "tests/unit/app/ViewFixture.h"
 
 namespace vorbel {

@@ -1,5 +1,5 @@
 // The career lines of the main menu and the diary's screen.
-#include "app/Texts.h"
+#include "app/text/Texts.h"
 #include "tests/unit/app/ViewFixture.h"
 
 #include <QDateTime>

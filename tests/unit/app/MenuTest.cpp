@@ -1,5 +1,5 @@
 // What each control of the menu does, and where it leads.
-#include "app/Texts.h"
+#include "app/text/Texts.h"
 #include "career/Diary.h"
 #include "tests/unit/app/ViewFixture.h"
 

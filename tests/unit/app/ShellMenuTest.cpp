@@ -1,5 +1,5 @@
-#include "app/VorbelApp.h"
 #include "app/shell/NotificationCenter.h"
+#include "app/shell/VorbelApp.h"
 #include "tests/unit/app/ViewFixture.h"
 
 namespace vorbel {

@@ -1,7 +1,7 @@
 // A content view without a window, on a clock that moves only when told to.
 #pragma once
 
-#include "app/ContentView.h"
+#include "app/window/ContentView.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/store/MemoryDefaults.h"
 

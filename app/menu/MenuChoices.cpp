@@ -1,0 +1,81 @@
+#include "app/menu/MenuChoices.h"
+
+#include "app/text/Fonts.h"
+#include "app/text/Texts.h"
+#include "app/window/ContentView.h"
+
+namespace vorbel {
+
+namespace {
+
+QString qString(std::string_view text) {
+    return QString::fromUtf8(text);
+}
+
+// The text of each value, in the order of the list.
+template <typename Values, typename TextOf>
+QStringList texts(const Values& values, TextOf textOf) {
+    QStringList list;
+    for (const auto value : values) {
+        list.append(textOf(value));
+    }
+    return list;
+}
+
+// Calls the setter with the value at that place, if there is one.
+template <typename Values, typename Setter>
+void choose(const Values& values, int index, Setter set) {
+    if (index >= 0 && index < static_cast<int>(values.size())) {
+        set(values[static_cast<std::size_t>(index)]);
+    }
+}
+
+} // namespace
+
+MenuChoices::MenuChoices(ContentView& view) : view_(view) {
+    connect(&view_, &ContentView::languageChanged, this, &MenuChoices::languageChanged);
+    connect(&view_, &ContentView::languageChanged, this, &MenuChoices::changed);
+    connect(&view_, &ContentView::choicesChanged, this, &MenuChoices::changed);
+}
+
+QStringList MenuChoices::languages() const {
+    return texts(allLanguages, [](AppLanguage language) { return qString(displayName(language)); });
+}
+QStringList MenuChoices::languageFonts() const {
+    return texts(allLanguages, nameFontFamily);
+}
+int MenuChoices::languageIndex() const {
+    return static_cast<int>(view_.selectedLanguage());
+}
+void MenuChoices::setLanguageIndex(int index) {
+    choose(allLanguages, index, [this](AppLanguage language) { view_.setSelectedLanguage(language); });
+}
+
+QStringList MenuChoices::countries() const {
+    return texts(allCountries,
+                 [this](Country country) { return text(key(country), view_.selectedLanguage()); });
+}
+QStringList MenuChoices::flags() const {
+    return texts(allCountries, [](Country country) { return qString(flagEmoji(country)); });
+}
+int MenuChoices::countryIndex() const {
+    return static_cast<int>(view_.selectedCountry());
+}
+void MenuChoices::setCountryIndex(int index) {
+    choose(allCountries, index, [this](Country country) { view_.setSelectedCountry(country); });
+}
+
+QStringList MenuChoices::sportClasses() const {
+    return texts(allBocciaClasses, [](BocciaClass sportClass) { return qString(rawValue(sportClass)); });
+}
+int MenuChoices::classIndex() const {
+    return static_cast<int>(view_.selectedClass());
+}
+void MenuChoices::setClassIndex(int index) {
+    choose(allBocciaClasses, index, [this](BocciaClass sportClass) { view_.setSelectedClass(sportClass); });
+}
+QString MenuChoices::classDescription() const {
+    return text(descriptionKey(view_.selectedClass()), view_.selectedLanguage());
+}
+
+} // namespace vorbel
