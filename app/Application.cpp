@@ -68,7 +68,9 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     NotificationCenter notifications;
     ContentView view(platform.services(), platform.defaults);
     view.receiveNotifications(notifications);
-    VorbelApp shell(view, notifications);
+    VorbelApp shell(*view.settings(), notifications);
+    QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
+                     [&shell] { shell.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(platform.resources));
     QQmlApplicationEngine engine;
     engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)},

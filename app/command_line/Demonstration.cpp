@@ -35,12 +35,12 @@ Demonstration::Demonstration(ContentView& view, MainQueue& queue, QQuickWindow& 
     if (std::error_code error; !folder_.empty()) {
         std::filesystem::create_directories(folder_, error); // saving a picture reports what is wrong
     }
-    view_.setMenuScreen(MenuScreen::hidden);
-    connect(&view_, &ContentView::refreshed, this, &Demonstration::follow);
+    view_.openMenu().setMenuScreen(MenuScreen::hidden);
+    connect(&view_.changes(), &MatchChanges::changed, this, &Demonstration::follow);
     after(startPause, [this] {
         takePicture(QStringLiteral("start"));
-        view_.setRedAIOn(true);
-        view_.setBlueAIOn(true);
+        view_.settings()->setRedAIOn(true);
+        view_.settings()->setBlueAIOn(true);
     });
 }
 
@@ -55,7 +55,7 @@ void Demonstration::follow() {
 
 void Demonstration::goOn(GamePhase phase) {
     if (phase == GamePhase::endOver) {
-        view_.pressAction();
+        view_.keyboard()->pressAction();
     } else if (phase == GamePhase::gameOver) {
         QCoreApplication::exit(failed_ ? 1 : 0);
     }

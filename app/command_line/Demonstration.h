@@ -31,7 +31,6 @@ private:
     QQuickWindow& window_;
     std::filesystem::path folder_;
     GamePhase phase_ = GamePhase::gameOver;
-    BallColor turn_ = BallColor::jack;
     int pictures_ = 0;
     bool failed_ = false;
     Lifetime lifetime_;

@@ -9,7 +9,8 @@
 
 namespace vorbel {
 
-class ContentView;
+class Career;
+class PlayerSettings;
 
 class MenuCareer : public QObject {
     Q_OBJECT
@@ -23,8 +24,8 @@ class MenuCareer : public QObject {
     Q_PROPERTY(vorbel::MenuDiary* diary READ diary CONSTANT FINAL)
 
 public:
-    // The view must outlive it.
-    explicit MenuCareer(ContentView& view);
+    // Both must outlive it.
+    MenuCareer(Career& career, const PlayerSettings& settings);
 
     [[nodiscard]] QString rank() const;
     [[nodiscard]] QString games() const; // matches played, and how many more the next rank takes
@@ -41,7 +42,8 @@ signals:
 private:
     [[nodiscard]] QString currentRankTitle() const;
 
-    ContentView& view_;
+    Career& career_;
+    const PlayerSettings& settings_;
     MenuDiary diary_;
 };
 

@@ -1,8 +1,8 @@
 #include "app/menu/MenuChoices.h"
 
+#include "app/settings/PlayerSettings.h"
 #include "app/text/Fonts.h"
 #include "app/text/Texts.h"
-#include "app/window/ContentView.h"
 
 namespace vorbel {
 
@@ -32,10 +32,10 @@ void choose(const Values& values, int index, Setter set) {
 
 } // namespace
 
-MenuChoices::MenuChoices(ContentView& view) : view_(view) {
-    connect(&view_, &ContentView::languageChanged, this, &MenuChoices::languageChanged);
-    connect(&view_, &ContentView::languageChanged, this, &MenuChoices::changed);
-    connect(&view_, &ContentView::choicesChanged, this, &MenuChoices::changed);
+MenuChoices::MenuChoices(PlayerSettings& settings) : settings_(settings) {
+    connect(&settings_, &PlayerSettings::languageChanged, this, &MenuChoices::languageChanged);
+    connect(&settings_, &PlayerSettings::languageChanged, this, &MenuChoices::changed);
+    connect(&settings_, &PlayerSettings::choicesChanged, this, &MenuChoices::changed);
 }
 
 QStringList MenuChoices::languages() const {
@@ -45,37 +45,38 @@ QStringList MenuChoices::languageFonts() const {
     return texts(allLanguages, nameFontFamily);
 }
 int MenuChoices::languageIndex() const {
-    return static_cast<int>(view_.selectedLanguage());
+    return static_cast<int>(settings_.selectedLanguage());
 }
 void MenuChoices::setLanguageIndex(int index) {
-    choose(allLanguages, index, [this](AppLanguage language) { view_.setSelectedLanguage(language); });
+    choose(allLanguages, index, [this](AppLanguage language) { settings_.setSelectedLanguage(language); });
 }
 
 QStringList MenuChoices::countries() const {
     return texts(allCountries,
-                 [this](Country country) { return text(key(country), view_.selectedLanguage()); });
+                 [this](Country country) { return text(key(country), settings_.selectedLanguage()); });
 }
 QStringList MenuChoices::flags() const {
     return texts(allCountries, [](Country country) { return qString(flagEmoji(country)); });
 }
 int MenuChoices::countryIndex() const {
-    return static_cast<int>(view_.selectedCountry());
+    return static_cast<int>(settings_.selectedCountry());
 }
 void MenuChoices::setCountryIndex(int index) {
-    choose(allCountries, index, [this](Country country) { view_.setSelectedCountry(country); });
+    choose(allCountries, index, [this](Country country) { settings_.setSelectedCountry(country); });
 }
 
 QStringList MenuChoices::sportClasses() const {
     return texts(allBocciaClasses, [](BocciaClass sportClass) { return qString(rawValue(sportClass)); });
 }
 int MenuChoices::classIndex() const {
-    return static_cast<int>(view_.selectedClass());
+    return static_cast<int>(settings_.selectedClass());
 }
 void MenuChoices::setClassIndex(int index) {
-    choose(allBocciaClasses, index, [this](BocciaClass sportClass) { view_.setSelectedClass(sportClass); });
+    choose(allBocciaClasses, index,
+           [this](BocciaClass sportClass) { settings_.setSelectedClass(sportClass); });
 }
 QString MenuChoices::classDescription() const {
-    return text(descriptionKey(view_.selectedClass()), view_.selectedLanguage());
+    return text(descriptionKey(settings_.selectedClass()), settings_.selectedLanguage());
 }
 
 } // namespace vorbel

@@ -9,7 +9,7 @@
 
 namespace vorbel {
 
-class ContentView;
+class PlayerSettings;
 
 class MenuChoices : public QObject {
     Q_OBJECT
@@ -29,8 +29,8 @@ class MenuChoices : public QObject {
     Q_PROPERTY(QString classDescription READ classDescription NOTIFY changed FINAL)
 
 public:
-    // The view must outlive it.
-    explicit MenuChoices(ContentView& view);
+    // The settings must outlive it.
+    explicit MenuChoices(PlayerSettings& settings);
 
     [[nodiscard]] QStringList languages() const;     // each by its own name for itself
     [[nodiscard]] QStringList languageFonts() const; // the family that shows each of these names
@@ -54,7 +54,7 @@ signals:
     void changed(); // country or class, or the language of the description
 
 private:
-    ContentView& view_;
+    PlayerSettings& settings_;
 };
 
 } // namespace vorbel

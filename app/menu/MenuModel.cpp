@@ -1,7 +1,9 @@
 #include "app/menu/MenuModel.h"
 
+#include "app/menu/OpenMenu.h"
+#include "app/settings/PlayerSettings.h"
 #include "app/text/Fonts.h"
-#include "app/window/ContentView.h"
+#include "engine/GameLogic.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -11,26 +13,34 @@ namespace vorbel {
 static_assert(static_cast<int>(MenuModel::Screen::MatchResult) == static_cast<int>(MenuScreen::matchResult));
 static_assert(static_cast<int>(MenuModel::Screen::Hidden) == static_cast<int>(MenuScreen::hidden));
 
-MenuModel::MenuModel(ContentView& view) : view_(view), choices_(view), career_(view), result_(view) {
-    texts_.setLanguage(view.selectedLanguage());
-    connect(&view_, &ContentView::menuScreenChanged, this, &MenuModel::screenChanged);
-    connect(&view_, &ContentView::languageChanged, this, [this] {
-        texts_.setLanguage(view_.selectedLanguage());
+MenuModel::MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openMenu, Career& career,
+                     const Resources& resources)
+    : match_(match),
+      settings_(settings),
+      openMenu_(openMenu),
+      resources_(resources),
+      choices_(settings),
+      career_(career, settings),
+      result_(match, settings, openMenu) {
+    texts_.setLanguage(settings_.selectedLanguage());
+    connect(&openMenu_, &OpenMenu::menuScreenChanged, this, &MenuModel::screenChanged);
+    connect(&settings_, &PlayerSettings::languageChanged, this, [this] {
+        texts_.setLanguage(settings_.selectedLanguage());
         emit languageChanged();
     });
 }
 
 MenuModel::Screen MenuModel::screen() const {
-    return static_cast<Screen>(view_.menuScreen());
+    return static_cast<Screen>(openMenu_.menuScreen());
 }
 bool MenuModel::isOpen() const {
-    return view_.menuScreen() != MenuScreen::hidden;
+    return !openMenu_.isHidden();
 }
 bool MenuModel::rightToLeft() const {
-    return isRightToLeft(view_.selectedLanguage());
+    return isRightToLeft(settings_.selectedLanguage());
 }
 QUrl MenuModel::logo() const {
-    const auto file = view_.resources().find("Logo", "png");
+    const auto file = resources_.find("Logo", "png");
     return file ? QUrl::fromLocalFile(QString::fromStdString(file->string())) : QUrl();
 }
 QString MenuModel::webSite() const {
@@ -38,11 +48,11 @@ QString MenuModel::webSite() const {
 }
 
 void MenuModel::startGame() {
-    view_.setStartingTournament(false);
+    settings_.setStartingTournament(false);
     open(MenuScreen::country);
 }
 void MenuModel::startTournament() {
-    view_.setStartingTournament(true);
+    settings_.setStartingTournament(true);
     open(MenuScreen::country);
 }
 void MenuModel::openDiary() {
@@ -69,32 +79,25 @@ void MenuModel::back() {
 }
 
 void MenuModel::play() {
-    handOverChoices();
-    if (view_.startingTournament()) {
-        view_.setRedAIOn(false);
-        view_.setBlueAIOn(true);
-        view_.gameLogic().startTournament(view_.selectedCountry());
-    } else if (view_.selectedLanguage() != AppLanguage::ru) {
+    settings_.handOverChoices();
+    if (settings_.startingTournament()) {
+        settings_.setRedAIOn(false);
+        settings_.setBlueAIOn(true);
+        match_.startTournament(settings_.selectedCountry());
+    } else if (settings_.selectedLanguage() != AppLanguage::ru) {
         // In Russian the match's own message stands; it may already be beyond its first throw.
-        view_.gameLogic().message = std::string(L10n::t("msg.initial", view_.selectedLanguage()));
+        match_.message = std::string(L10n::t("msg.initial", settings_.selectedLanguage()));
     }
     open(MenuScreen::hidden);
 }
 
-void MenuModel::handOverChoices() {
-    GameLogic& match = view_.gameLogic();
-    match.playerClass = view_.selectedClass();
-    match.playerCountry = view_.selectedCountry();
-    match.language = view_.selectedLanguage();
-}
-
 void MenuModel::goOn() {
-    view_.gameLogic().processInput();
-    open(view_.gameLogic().tournamentActive ? MenuScreen::hidden : MenuScreen::main);
+    match_.processInput();
+    open(match_.tournamentActive ? MenuScreen::hidden : MenuScreen::main);
 }
 
 void MenuModel::open(MenuScreen screen) {
-    view_.setMenuScreen(screen);
+    openMenu_.setMenuScreen(screen);
 }
 
 } // namespace vorbel

@@ -13,10 +13,14 @@
 
 namespace vorbel {
 
-class ContentView;
+class Career;
+class GameLogic;
+class OpenMenu;
+class PlayerSettings;
+class Resources;
 
-// Has no state of its own: it reads and writes the fields of the content view, which must outlive it, and
-// drives the match. All texts are in the player's language and follow a change of it at once.
+// Has no state of its own: it reads and writes the player's settings and which screen is open, shows the
+// career, and drives the match. All texts are in the player's language and follow a change of it at once.
 class MenuModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -36,7 +40,9 @@ public:
     enum class Screen { Main, Country, BcClass, Rules, About, Diary, MatchResult, Hidden };
     Q_ENUM(Screen)
 
-    explicit MenuModel(ContentView& view);
+    // All five must outlive it.
+    MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openMenu, Career& career,
+              const Resources& resources);
 
     [[nodiscard]] Screen screen() const;
     [[nodiscard]] bool isOpen() const;
@@ -66,9 +72,11 @@ signals:
 
 private:
     void open(MenuScreen screen);
-    void handOverChoices();
 
-    ContentView& view_;
+    GameLogic& match_;
+    PlayerSettings& settings_;
+    OpenMenu& openMenu_;
+    const Resources& resources_;
     MenuTexts texts_;
     MenuChoices choices_;
     MenuCareer career_;

@@ -1,8 +1,10 @@
 #include "app/menu/MenuResult.h"
 
+#include "app/menu/OpenMenu.h"
+#include "app/settings/PlayerSettings.h"
 #include "app/text/Texts.h"
-#include "app/window/ContentView.h"
 #include "career/Tournament.h"
+#include "engine/GameLogic.h"
 
 namespace vorbel {
 
@@ -15,14 +17,14 @@ bool leadsToNextRound(const GameLogic& match) {
 
 } // namespace
 
-MenuResult::MenuResult(ContentView& view) : view_(view) {
-    connect(&view_, &ContentView::menuScreenChanged, this, &MenuResult::look);
-    connect(&view_, &ContentView::languageChanged, this, &MenuResult::look);
-    connect(&view_, &ContentView::refreshed, this, &MenuResult::look);
+MenuResult::MenuResult(const GameLogic& match, const PlayerSettings& settings, const OpenMenu& menu)
+    : match_(match), settings_(settings), menu_(menu) {
+    connect(&menu_, &OpenMenu::menuScreenChanged, this, &MenuResult::refresh);
+    connect(&settings_, &PlayerSettings::languageChanged, this, &MenuResult::refresh);
 }
 
-void MenuResult::look() {
-    if (view_.menuScreen() != MenuScreen::matchResult) {
+void MenuResult::refresh() {
+    if (menu_.menuScreen() != MenuScreen::matchResult) {
         return;
     }
     if (Contents contents = currentContents(); contents != contents_) {
@@ -32,23 +34,22 @@ void MenuResult::look() {
 }
 
 MenuResult::Contents MenuResult::currentContents() const {
-    const GameLogic& match = view_.gameLogic();
-    const AppLanguage language = view_.selectedLanguage();
+    const AppLanguage language = settings_.selectedLanguage();
     Contents contents{
-        .tournament = match.tournamentActive ? text("menu.tournament", language) : QString(),
+        .tournament = match_.tournamentActive ? text("menu.tournament", language) : QString(),
         .title = text("menu.matchResult", language),
-        .winner = QString::fromStdString(match.matchWinnerTitle()),
+        .winner = QString::fromStdString(match_.matchWinnerTitle()),
         .scoreLabel = text("label.score", language),
-        .buttonLabel = text(leadsToNextRound(match) ? "menu.nextRound" : "menu.mainMenu", language),
+        .buttonLabel = text(leadsToNextRound(match_) ? "menu.nextRound" : "menu.mainMenu", language),
         .redName = text("team.red", language),
         .blueName = text("team.blue", language),
         .ends = {},
         .redPoints = {},
         .bluePoints = {},
-        .redScore = match.redScore,
-        .blueScore = match.blueScore,
+        .redScore = match_.redScore,
+        .blueScore = match_.blueScore,
     };
-    for (const EndResult& end : match.endHistory.get()) {
+    for (const EndResult& end : match_.endHistory.get()) {
         contents.ends.append(QStringLiteral("%1 %2").arg(text("label.end", language)).arg(end.end));
         contents.redPoints.append(end.red);
         contents.bluePoints.append(end.blue);

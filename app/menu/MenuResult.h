@@ -9,8 +9,9 @@
 
 namespace vorbel {
 
-class ContentView;
 class GameLogic;
+class OpenMenu;
+class PlayerSettings;
 
 // Looks at the match only while the result is shown.
 class MenuResult : public QObject {
@@ -32,8 +33,10 @@ class MenuResult : public QObject {
     Q_PROPERTY(QString blueName READ blueName NOTIFY changed FINAL)
 
 public:
-    // The view must outlive it.
-    explicit MenuResult(ContentView& view);
+    // All three must outlive it.
+    MenuResult(const GameLogic& match, const PlayerSettings& settings, const OpenMenu& menu);
+
+    void refresh(); // takes over the state of the match
 
     [[nodiscard]] const QString& tournament() const { return contents_.tournament; } // empty: none is running
     [[nodiscard]] const QString& title() const { return contents_.title; }
@@ -60,10 +63,11 @@ private:
         bool operator==(const Contents&) const = default;
     };
 
-    void look();
     [[nodiscard]] Contents currentContents() const;
 
-    ContentView& view_;
+    const GameLogic& match_;
+    const PlayerSettings& settings_;
+    const OpenMenu& menu_;
     Contents contents_;
 };
 

@@ -1,22 +1,21 @@
 #include "app/shell/VorbelApp.h"
 
+#include "app/settings/PlayerSettings.h"
 #include "app/shell/NotificationCenter.h"
 #include "app/text/Fonts.h"
 #include "app/text/Texts.h"
-#include "app/window/ContentView.h"
 
 #include <QKeySequence>
 #include <QStringList>
 
 namespace vorbel {
 
-VorbelApp::VorbelApp(const ContentView& view, const NotificationCenter& notifications)
-    : notifications_(notifications), language_(view.selectedLanguage()) {
-    connect(&view, &ContentView::languageChanged, this, [this, &view] {
-        language_ = view.selectedLanguage();
+VorbelApp::VorbelApp(const PlayerSettings& settings, const NotificationCenter& notifications)
+    : notifications_(notifications), language_(settings.selectedLanguage()) {
+    connect(&settings, &PlayerSettings::languageChanged, this, [this, &settings] {
+        language_ = settings.selectedLanguage();
         emit languageChanged();
     });
-    connect(&view, &ContentView::exitFullScreenRequested, this, [this] { toggleFullScreenEmulation(true); });
 }
 
 QString VorbelApp::gameMenuTitle() const {

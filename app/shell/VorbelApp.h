@@ -11,10 +11,10 @@
 
 namespace vorbel {
 
-class ContentView;
 class NotificationCenter;
+class PlayerSettings;
 
-// Tells the game view what the player asks for through notifications only; follows the view's language.
+// Tells the game view what the player asks for through notifications only; follows the player's language.
 // Main thread only.
 class VorbelApp final : public QObject {
     Q_OBJECT
@@ -32,7 +32,7 @@ class VorbelApp final : public QObject {
 
 public:
     // Both must outlive it.
-    VorbelApp(const ContentView& view, const NotificationCenter& notifications);
+    VorbelApp(const PlayerSettings& settings, const NotificationCenter& notifications);
 
     // The one window, which must outlive this. Until it is set, full screen does nothing.
     void setWindow(WindowFrame& window) { window_ = &window; }

@@ -1,33 +1,34 @@
-// The keys of the game. While a menu is open they are swallowed.
-#include "app/window/ContentView.h"
+#include "app/window/Keyboard.h"
+
+#include "app/menu/OpenMenu.h"
+#include "engine/GameLogic.h"
 
 namespace vorbel {
 
-void ContentView::pressAction() {
+Keyboard::Keyboard(GameLogic& match, const OpenMenu& menu) : match_(match), menu_(menu) {}
+
+void Keyboard::pressAction() {
     act(&GameLogic::processInput);
 }
-void ContentView::pressLeft() {
+void Keyboard::pressLeft() {
     act(&GameLogic::moveAimLeft);
 }
-void ContentView::pressRight() {
+void Keyboard::pressRight() {
     act(&GameLogic::moveAimRight);
 }
-void ContentView::pressUp() {
+void Keyboard::pressUp() {
     act(&GameLogic::moveAimUp);
 }
-void ContentView::pressDown() {
+void Keyboard::pressDown() {
     act(&GameLogic::moveAimDown);
 }
-void ContentView::pressExitFullScreen() {
+void Keyboard::pressExitFullScreen() {
     emit exitFullScreenRequested();
 }
 
-void ContentView::act(void (GameLogic::*operation)()) {
-    if (refreshPending_) {
-        refresh(); // a match that has just ended is recorded before the key can start the next one
-    }
-    if (menuScreen_ == MenuScreen::hidden) {
-        (gameLogic_.*operation)();
+void Keyboard::act(void (GameLogic::*operation)()) {
+    if (menu_.isHidden()) {
+        (match_.*operation)();
     }
 }
 

@@ -33,7 +33,7 @@ void SceneView::setView(ContentView* view) {
     copyScene(view_->gameLogic().scene, 1, drawing_->frame);
     drawing_->pictures->announce(drawing_->frame); // read while the window is being made
     connect(view_, &ContentView::ticked, this, &SceneView::matchTicked);
-    connect(view_, &ContentView::refreshed, this, &SceneView::requestFrame);
+    connect(&view_->changes(), &MatchChanges::changed, this, &SceneView::requestFrame);
     emit viewChanged();
 }
 
@@ -47,7 +47,7 @@ void SceneView::itemChange(ItemChange change, const ItemChangeData& data) {
 void SceneView::attach(QQuickWindow& window) {
     pacer_ = std::make_unique<FramePacer>(window);
     connect(pacer_.get(), &FramePacer::idle, this, [this] {
-        view_->releaseRefreshes();
+        view_->changes().release();
         if (moved_) {
             pacer_->request();
         }
@@ -111,7 +111,7 @@ void SceneView::reportLater(const std::string& problem) {
 
 void SceneView::copyFrame() {
     copyScene(view_->gameLogic().scene, tickFraction(), drawing_->frame);
-    view_->holdRefreshes();
+    view_->changes().hold();
     pacer_->frameBegan();
 }
 

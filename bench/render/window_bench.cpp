@@ -119,7 +119,7 @@ int measureWindow(const Resources& resources) {
     if (window == nullptr) {
         return 1;
     }
-    view.setMenuScreen(MenuScreen::hidden);
+    view.openMenu().setMenuScreen(MenuScreen::hidden);
     view.appear();
     run(*window, false, [] {});
 
@@ -139,7 +139,7 @@ int measureWindow(const Resources& resources) {
     std::vector<double> switches;
     for (const AppLanguage language : {AppLanguage::de, AppLanguage::en, AppLanguage::ja, AppLanguage::en}) {
         start = Moment::now();
-        view.setSelectedLanguage(language);
+        view.settings()->setSelectedLanguage(language);
         QEventLoop untilShown;
         QObject::connect(window, &QQuickWindow::frameSwapped, &untilShown, &QEventLoop::quit,
                          Qt::QueuedConnection);

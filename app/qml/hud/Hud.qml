@@ -7,6 +7,7 @@ Item {
 
     required property ContentView view
     readonly property HudModel hud: view.hud
+    readonly property PlayerSettings settings: view.settings
 
     // Narrower than the gap between the waiting balls at the lower edge, whose place follows the window's height.
     readonly property real lowerWidth: Math.min(width - 2 * Theme.margin, 0.9 * height)
@@ -21,17 +22,17 @@ Item {
         ballsLeftLabel: display.hud.ballsLeftLabel
         ballsLeft: display.hud.redBallsLeft
         aiLabel: display.hud.aiToggleLabel
-        aiOn: display.view.redAIOn
+        aiOn: display.settings.redAIOn
         hasTurn: display.hud.redOnTurn
         rightToLeft: display.hud.rightToLeft
-        onAiToggled: on => display.view.redAIOn = on
+        onAiToggled: on => display.settings.redAIOn = on
     }
     MatchPanel {
         anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.margin }
         hud: display.hud
-        difficultyIndex: display.view.difficultyIndex
+        difficultyIndex: display.settings.difficultyIndex
         maximumWidth: display.width - 2 * (Math.max(red.width, blue.width) + 2 * Theme.margin)
-        onDifficultyChosen: index => display.view.difficultyIndex = index
+        onDifficultyChosen: index => display.settings.difficultyIndex = index
     }
     SidePanel {
         id: blue
@@ -43,10 +44,10 @@ Item {
         ballsLeftLabel: display.hud.ballsLeftLabel
         ballsLeft: display.hud.blueBallsLeft
         aiLabel: display.hud.aiToggleLabel
-        aiOn: display.view.blueAIOn
+        aiOn: display.settings.blueAIOn
         hasTurn: display.hud.blueOnTurn
         rightToLeft: display.hud.rightToLeft
-        onAiToggled: on => display.view.blueAIOn = on
+        onAiToggled: on => display.settings.blueAIOn = on
     }
     Column {
         anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.margin }

@@ -5,12 +5,12 @@ import Vorbel
 Item {
     id: keys
 
-    required property ContentView view
+    required property Keyboard keyboard
 
-    Shortcut { sequence: "Space"; autoRepeat: false; onActivated: keys.view.pressAction() }
-    Shortcut { sequence: "Left"; onActivated: keys.view.pressLeft() }
-    Shortcut { sequence: "Right"; onActivated: keys.view.pressRight() }
-    Shortcut { sequence: "Up"; onActivated: keys.view.pressUp() }
-    Shortcut { sequence: "Down"; onActivated: keys.view.pressDown() }
-    Shortcut { sequence: "Escape"; autoRepeat: false; onActivated: keys.view.pressExitFullScreen() }
+    Shortcut { sequence: "Space"; autoRepeat: false; onActivated: keys.keyboard.pressAction() }
+    Shortcut { sequence: "Left"; onActivated: keys.keyboard.pressLeft() }
+    Shortcut { sequence: "Right"; onActivated: keys.keyboard.pressRight() }
+    Shortcut { sequence: "Up"; onActivated: keys.keyboard.pressUp() }
+    Shortcut { sequence: "Down"; onActivated: keys.keyboard.pressDown() }
+    Shortcut { sequence: "Escape"; autoRepeat: false; onActivated: keys.keyboard.pressExitFullScreen() }
 }

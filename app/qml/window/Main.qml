@@ -19,7 +19,7 @@ Window {
     Binding {
         target: Theme
         property: "fontFamily"
-        value: window.view.fontFamily
+        value: window.view.settings.fontFamily
     }
 
     SceneView {
@@ -51,6 +51,6 @@ Window {
         shell: window.shell
     }
     GameKeys {
-        view: window.view
+        keyboard: window.view.keyboard
     }
 }

@@ -56,12 +56,12 @@ QQuickItem& MenuWindow::menu() const {
 }
 
 void MenuWindow::setLanguage(AppLanguage language) {
-    view_.setSelectedLanguage(language);
+    view_.settings()->setSelectedLanguage(language);
     settle();
 }
 
 void MenuWindow::open(MenuScreen screen) {
-    view_.setMenuScreen(screen);
+    view_.openMenu().setMenuScreen(screen);
     settle();
 }
 

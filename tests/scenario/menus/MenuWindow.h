@@ -43,7 +43,7 @@ private:
     MemoryDefaults defaults_;
     NotificationCenter notifications_;
     ContentView view_;
-    VorbelApp shell_{view_, notifications_};
+    VorbelApp shell_{*view_.settings(), notifications_};
     QQmlApplicationEngine engine_;
     QQuickWindow* window_ = nullptr;
     QStringList complaints_;

@@ -42,7 +42,7 @@ void fill(MenuWindow& game) {
     game.defaults().setInteger("boccia_gamesPlayed", 45);
     game.defaults().setInteger("boccia_athleteXP", 123);
     game.defaults().setBytes("boccia_diaryData", diaryOf(40));
-    game.view().setRealAthlete(true);
+    game.view().career().setRealAthlete(true);
     game.view().menu()->career()->readDiary();
     GameLogic& match = game.view().gameLogic();
     match.tournamentActive = true;
@@ -97,7 +97,7 @@ TEST_P(ScreensTest, NoTextIsCutOffOverlapsOrOverflows) {
 
 TEST_P(ScreensTest, NeitherDoTheOtherContentsOfTheSameScreens) {
     for (const BocciaClass sportClass : allBocciaClasses) {
-        game.view().setSelectedClass(sportClass);
+        game.view().settings()->setSelectedClass(sportClass);
         game.open(MenuScreen::bcClass);
         check(std::string(rawValue(sportClass)).c_str());
     }
@@ -107,7 +107,7 @@ TEST_P(ScreensTest, NeitherDoTheOtherContentsOfTheSameScreens) {
     game.defaults().setBytes("boccia_diaryData", "");
     game.view().menu()->openDiary();
     check("diary-empty");
-    game.view().setRealAthlete(false);
+    game.view().career().setRealAthlete(false);
     for (const int played : {0, 3, 6, 10, 15, 20, 30, 45, 60}) {
         game.defaults().setInteger("boccia_gamesPlayed", played);
         game.open(MenuScreen::hidden);

@@ -8,7 +8,7 @@ protected:
     const HudModel& hud = *view.hud();
 
     void speak(AppLanguage language) {
-        view.setSelectedLanguage(language);
+        settings.setSelectedLanguage(language);
         letQueueRun();
         letQueueRun(); // the language first, then what follows from it
     }
@@ -41,7 +41,7 @@ TEST_F(HudModelTest, ChangingTheLanguageChangesAllTextsAtOnceAndTheMessageAtItsN
     EXPECT_EQ(hud.powerCaption(), QStringLiteral("Throw power"));
     EXPECT_EQ(hud.message(), QStringLiteral("Нажмите [ПРОБЕЛ] для начала прицеливания"));
     hideMenu();
-    view.pressAction();
+    keyboard.pressAction();
     letQueueRun();
     EXPECT_EQ(hud.message(), text("msg.aimingHint", AppLanguage::en));
 }
@@ -60,7 +60,7 @@ TEST_F(HudModelTest, EveryLanguageHasItsOwnTextForEachPartOfTheDisplay) {
 TEST_F(HudModelTest, OnlyTheRampClassGetsTheRampHint) {
     speak(AppLanguage::en);
     for (const BocciaClass sportClass : allBocciaClasses) {
-        view.setSelectedClass(sportClass);
+        settings.setSelectedClass(sportClass);
         letQueueRun();
         EXPECT_EQ(hud.rampHint().isEmpty(), sportClass != BocciaClass::bc3);
     }
@@ -81,15 +81,15 @@ TEST_F(HudModelTest, TheTournamentLineIsShownWhileATournamentRuns) {
 TEST_F(HudModelTest, ThePowerBarIsShownOnlyWhileThePowerSwings) {
     view.appear();
     hideMenu();
-    view.pressAction();
+    keyboard.pressAction();
     letQueueRun();
     EXPECT_FALSE(hud.powerShown());
-    view.pressAction();
+    keyboard.pressAction();
     platform.queue.advance(0.2);
     EXPECT_TRUE(hud.powerShown());
     EXPECT_EQ(hud.power(), match.aimPower);
     EXPECT_GT(hud.power(), 10);
-    view.pressAction();
+    keyboard.pressAction();
     letQueueRun();
     EXPECT_FALSE(hud.powerShown());
 }

@@ -9,10 +9,10 @@ namespace vorbel {
 
 class MenuCareerTest : public ViewTest {
 protected:
-    MenuCareer& career = *view.menu()->career();
-    MenuDiary& diary = *career.diary();
+    MenuCareer& lines = *view.menu()->career();
+    MenuDiary& diary = *lines.diary();
 
-    MenuCareerTest() { view.setSelectedLanguage(AppLanguage::en); }
+    MenuCareerTest() { settings.setSelectedLanguage(AppLanguage::en); }
 
     void played(int matches) { defaults.setInteger("boccia_gamesPlayed", matches); }
     void finishAnotherMatch(int red, int blue) {
@@ -59,13 +59,13 @@ TEST_F(MenuCareerTest, FromSixtyMatchesOnTheTopRankIsReached) {
 TEST_F(MenuCareerTest, TheRankDependsOnMatchesAlone) {
     played(3);
     defaults.setInteger("boccia_athleteXP", 500);
-    view.setRealAthlete(true);
+    career.setRealAthlete(true);
     EXPECT_EQ(career.rank(), QStringLiteral("Rank: 3rd Junior Class"));
 }
 
 TEST_F(MenuCareerTest, TheAthleteSwitchIsKeptForTheNextLaunch) {
     EXPECT_FALSE(career.isRealAthlete());
-    career.setRealAthlete(true);
+    lines.setRealAthlete(true);
     EXPECT_EQ(defaults.boolean("boccia_isRealAthlete"), true);
     ContentView next(platform.services(), defaults);
     EXPECT_TRUE(next.menu()->career()->isRealAthlete());
@@ -75,8 +75,8 @@ TEST_F(MenuCareerTest, TheAthleteSwitchIsKeptForTheNextLaunch) {
 
 TEST_F(MenuCareerTest, TheCareerLinesFollowEachMatchAndSwitch) {
     int changes = 0;
-    QObject::connect(&career, &MenuCareer::changed, &view, [&changes] { ++changes; });
-    career.setRealAthlete(true);
+    QObject::connect(&lines, &MenuCareer::changed, &view, [&changes] { ++changes; });
+    lines.setRealAthlete(true);
     EXPECT_EQ(changes, 1);
     finishMatch(5, 2);
     EXPECT_EQ(changes, 2);
@@ -85,7 +85,7 @@ TEST_F(MenuCareerTest, TheCareerLinesFollowEachMatchAndSwitch) {
 }
 
 TEST_F(MenuCareerTest, TheDiaryShowsTheNewestMatchFirst) {
-    career.setRealAthlete(true);
+    lines.setRealAthlete(true);
     finishMatch(5, 2);
     finishAnotherMatch(1, 2);
     view.menu()->openDiary();
@@ -108,19 +108,19 @@ TEST_F(MenuCareerTest, ADateIsShownInTheSystemsShortForm) {
 }
 
 TEST_F(MenuCareerTest, AResultIsStoredAsAKeyAndShownInThePlayersLanguage) {
-    career.setRealAthlete(true);
+    lines.setRealAthlete(true);
     finishMatch(5, 2);
     view.menu()->openDiary();
     int changes = 0;
     QObject::connect(&diary, &MenuDiary::dataChanged, &view, [&changes] { ++changes; });
-    view.setSelectedLanguage(AppLanguage::de);
+    settings.setSelectedLanguage(AppLanguage::de);
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(shown(0, MenuDiary::resultRole),
               text("diary.entry.format", AppLanguage::de, {L10n::t("diary.win", AppLanguage::de), "1"}));
 }
 
 TEST_F(MenuCareerTest, ACorruptedDiaryIsShownAsEmptyAndHoldsOnlyTheNextMatch) {
-    career.setRealAthlete(true);
+    lines.setRealAthlete(true);
     defaults.setBytes("boccia_diaryData", "[{\"id\":");
     view.menu()->openDiary();
     EXPECT_TRUE(diary.isEmpty());
@@ -131,7 +131,7 @@ TEST_F(MenuCareerTest, ACorruptedDiaryIsShownAsEmptyAndHoldsOnlyTheNextMatch) {
 }
 
 TEST_F(MenuCareerTest, AnUnchangedDiaryIsNotReadAgain) {
-    career.setRealAthlete(true);
+    lines.setRealAthlete(true);
     finishMatch(5, 2);
     view.menu()->openDiary();
     int readings = 0;

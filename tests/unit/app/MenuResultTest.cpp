@@ -9,7 +9,7 @@ protected:
     MenuResult& result = *menu.result();
 
     MenuResultTest() {
-        view.setSelectedLanguage(AppLanguage::en);
+        settings.setSelectedLanguage(AppLanguage::en);
         letQueueRun();
         hideMenu();
     }
@@ -23,7 +23,7 @@ protected:
 
 TEST_F(MenuResultTest, IsShownWhenAMatchEnds) {
     finishMatch(5, 2);
-    EXPECT_EQ(view.menuScreen(), MenuScreen::matchResult);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::matchResult);
     EXPECT_EQ(result.title(), QStringLiteral("Match Result"));
     EXPECT_EQ(result.redScore(), 5);
     EXPECT_EQ(result.blueScore(), 2);
@@ -43,7 +43,7 @@ TEST_F(MenuResultTest, ListsEachEndWithBothSidesPoints) {
 
 TEST_F(MenuResultTest, FollowsTheLanguageWhileItIsShown) {
     finishMatch(5, 2);
-    view.setSelectedLanguage(AppLanguage::ru);
+    settings.setSelectedLanguage(AppLanguage::ru);
     letQueueRun();
     letQueueRun();
     EXPECT_EQ(result.winner(), QString::fromStdString(match.matchWinnerTitle()));
@@ -54,7 +54,7 @@ TEST_F(MenuResultTest, OfASingleMatchLeadsToTheMainMenuWithANewMatchBehindIt) {
     finishMatch(5, 2);
     EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Main Menu"));
     menu.goOn();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     EXPECT_EQ(match.phase, GamePhase::throwingJack);
     EXPECT_EQ(match.redScore, 0);
 }
@@ -66,7 +66,7 @@ TEST_F(MenuResultTest, OfAWonRoundLeadsToTheNextRound) {
         EXPECT_EQ(result.tournament(), QStringLiteral("Tournament"));
         EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Next Round"));
         menu.goOn();
-        EXPECT_EQ(view.menuScreen(), MenuScreen::hidden);
+        EXPECT_EQ(openMenu.menuScreen(), MenuScreen::hidden);
         EXPECT_EQ(match.tournamentRound, round + 1);
         EXPECT_TRUE(match.tournamentActive);
         letQueueRun();
@@ -77,7 +77,7 @@ TEST_F(MenuResultTest, OfTheLastRoundLeadsToTheMainMenuAsChampion) {
     finishTournamentMatch(4, 5, 2);
     EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Main Menu"));
     menu.goOn();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     EXPECT_FALSE(match.tournamentActive);
     EXPECT_EQ(match.message.get(), "TOURNAMENT CHAMPION! You won all 4 rounds! [SPACE] for a new game");
 }
@@ -87,15 +87,15 @@ TEST_F(MenuResultTest, OfALostRoundLeadsToTheMainMenu) {
     EXPECT_EQ(result.tournament(), QStringLiteral("Tournament"));
     EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Main Menu"));
     menu.goOn();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     EXPECT_FALSE(match.tournamentActive);
 }
 
 TEST_F(MenuResultTest, StaysAsItIsWhileSpaceIsPressed) {
     finishMatch(5, 2);
-    view.pressAction();
+    keyboard.pressAction();
     letQueueRun();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::matchResult);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::matchResult);
     EXPECT_EQ(match.phase, GamePhase::gameOver);
     EXPECT_EQ(result.redScore(), 5);
 }

@@ -7,7 +7,7 @@ protected:
     int refreshes = 0;
 
     RefreshTest() {
-        QObject::connect(&view, &ContentView::refreshed, &view, [this] { ++refreshes; });
+        QObject::connect(&view.changes(), &MatchChanges::changed, &view, [this] { ++refreshes; });
     }
 };
 
@@ -23,13 +23,13 @@ TEST_F(RefreshTest, ABurstOfChangesIsShownOnce) {
 }
 
 TEST_F(RefreshTest, ChangesWaitWhileAPictureIsBeingDrawn) {
-    view.holdRefreshes();
+    view.changes().hold();
     match.redScore = 1;
     letQueueRun();
     match.redScore = 2;
     letQueueRun();
     EXPECT_EQ(refreshes, 0);
-    view.releaseRefreshes();
+    view.changes().release();
     EXPECT_EQ(refreshes, 1);
     EXPECT_EQ(view.hud()->redScore(), 2);
     match.redScore = 3;
@@ -39,10 +39,10 @@ TEST_F(RefreshTest, ChangesWaitWhileAPictureIsBeingDrawn) {
 
 TEST_F(RefreshTest, APictureThatBeginsAfterTheChangeHoldsItBackToo) {
     match.redScore = 1;
-    view.holdRefreshes();
+    view.changes().hold();
     letQueueRun();
     EXPECT_EQ(refreshes, 0);
-    view.releaseRefreshes();
+    view.changes().release();
     EXPECT_EQ(view.hud()->redScore(), 1);
 }
 
@@ -57,9 +57,9 @@ TEST_F(RefreshTest, TheViewTicksWithTheMatch) {
 TEST_F(RefreshTest, ThePointerTurnsToTheAimWithinATenthOfASecond) {
     view.appear();
     hideMenu();
-    view.pressAction();
-    view.pressRight();
-    view.pressUp();
+    keyboard.pressAction();
+    keyboard.pressRight();
+    keyboard.pressUp();
     const Quat target = rotationFromEuler({0.05, -0.05, 0});
     const auto distanceToTarget = [this, &target] {
         return 1 - std::abs(glm::dot(pointerOrientation(), target));

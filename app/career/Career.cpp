@@ -1,5 +1,5 @@
-// What a finished match leaves behind.
-#include "app/window/ContentView.h"
+#include "app/career/Career.h"
+
 #include "career/Diary.h"
 
 #include <chrono>
@@ -22,36 +22,37 @@ DiaryEntry entryOf(int redScore, int blueScore, RandomSource& random) {
 
 } // namespace
 
-int ContentView::gamesPlayed() const {
+Career::Career(UserDefaults& defaults, RandomSource& random) : defaults_(defaults), random_(random) {}
+
+int Career::gamesPlayed() const {
     return defaults_.integer(gamesPlayedKey).value_or(0);
 }
-bool ContentView::isRealAthlete() const {
+bool Career::isRealAthlete() const {
     return defaults_.boolean(isRealAthleteKey).value_or(false);
 }
-int ContentView::athleteXP() const {
+int Career::athleteXP() const {
     return defaults_.integer(athleteXPKey).value_or(0);
 }
-std::string ContentView::diaryData() const {
+std::string Career::diaryData() const {
     return defaults_.bytes(diaryDataKey).value_or("");
 }
 
-void ContentView::setRealAthlete(bool is) {
+void Career::setRealAthlete(bool is) {
     defaults_.setBoolean(isRealAthleteKey, is);
-    emit careerChanged();
+    emit changed();
 }
 
-void ContentView::recordFinishedMatch() {
+void Career::addMatch(int redScore, int blueScore) {
     defaults_.setInteger(gamesPlayedKey, gamesPlayed() + 1);
     if (isRealAthlete()) {
-        const DiaryEntry entry = entryOf(gameLogic_.redScore, gameLogic_.blueScore, platform_.random);
+        const DiaryEntry entry = entryOf(redScore, blueScore, random_);
         defaults_.setInteger(athleteXPKey, athleteXP() + entry.xpGained);
         appendDiaryEntry(entry);
     }
-    emit careerChanged();
-    setMenuScreen(MenuScreen::matchResult);
+    emit changed();
 }
 
-void ContentView::appendDiaryEntry(const DiaryEntry& entry) {
+void Career::appendDiaryEntry(const DiaryEntry& entry) {
     std::vector<DiaryEntry> entries = decodeDiary(diaryData());
     entries.insert(entries.begin(), entry);
     defaults_.setBytes(diaryDataKey, encodeDiary(entries));
