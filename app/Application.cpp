@@ -2,6 +2,7 @@
 
 #include "app/command_line/Demonstration.h"
 #include "app/command_line/Screenshot.h"
+#include "app/command_line/Speed.h"
 #include "app/shell/NotificationCenter.h"
 #include "app/shell/QtWindowFrame.h"
 #include "app/shell/VorbelApp.h"

@@ -1,6 +1,5 @@
 #include "app/command_line/CommandLine.h"
 
-#include <cstdlib>
 #include <string_view>
 
 namespace vorbel {
@@ -91,18 +90,6 @@ Environment:
 
 std::string CommandLine::versionText() {
     return "vorbel " VORBEL_VERSION "\n";
-}
-
-double speedFromEnvironment() {
-    constexpr double slowest = 0.1;
-    constexpr double fastest = 100;
-    const char* text = std::getenv("VORBEL_SPEED");
-    if (text == nullptr) {
-        return 1;
-    }
-    char* end = nullptr;
-    const double speed = std::strtod(text, &end);
-    return end != text && *end == '\0' && speed >= slowest && speed <= fastest ? speed : 1;
 }
 
 } // namespace vorbel

@@ -22,8 +22,4 @@ struct CommandLine {
     [[nodiscard]] static std::string versionText();
 };
 
-// How much faster than real time the game runs: the environment variable VORBEL_SPEED, 1 when it is not set
-// or not a number from 0.1 to 100.
-[[nodiscard]] double speedFromEnvironment();
-
 } // namespace vorbel
