@@ -2,7 +2,6 @@
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include <QAccessible>
-#include <QElapsedTimer>
 #include <QSet>
 #include <QTest>
 #include <QUrl>
@@ -226,20 +225,20 @@ TEST_F(ControlsTest, TheAboutScreenHasALinkToTheMakers) {
     EXPECT_TRUE(QUrl(view.menu()->webSite(), QUrl::StrictMode).isValid());
 }
 
-TEST_F(ControlsTest, ALongDiaryOpensAtOnceAndScrollsToItsEnd) {
+TEST_F(ControlsTest, OfALongDiaryOnlyTheRowsThatAreSeenAreMadeAndItScrollsToItsEnd) {
     std::string json = "[";
     for (int i = 0; i < 100'000; ++i) {
         json += (i == 0 ? "" : ",") + std::string(R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":)") +
                 std::to_string(700'000'000 - i * 3600) + R"(.25,"resultKey":"diary.win","xpGained":1})";
     }
     game.defaults().setBytes("boccia_diaryData", json + "]");
-    QElapsedTimer clock;
-    clock.start();
     view.menu()->openDiary();
     game.layOut();
-    RecordProperty("milliseconds", std::to_string(clock.elapsed()));
-    std::printf("100,000 entries: %lld ms\n", static_cast<long long>(clock.elapsed()));
-    EXPECT_LT(clock.elapsed(), 1000);
+    std::vector<QQuickItem*> rows;
+    collect(
+        game.menu(), [](QQuickItem& item) { return isOfType(item, "DiaryRow"); }, rows);
+    EXPECT_GT(rows.size(), 5U);
+    EXPECT_LT(rows.size(), 100U);
     EXPECT_EQ(view.menu()->career()->diary()->rowCount(), 100'000);
     game.press(Qt::Key_Tab); // from the button to the list
     game.press(Qt::Key_End);

@@ -37,6 +37,12 @@ void Desktop::press(const QString& key) const {
     runTool({QStringLiteral("key"), key});
 }
 
+bool Desktop::pressUntilChanged(const QString& key, const QRect& part) const {
+    const QImage before = picture().copy(part);
+    press(key);
+    return waitUntil([&] { return picture().copy(part) != before; }, 10'000);
+}
+
 bool Desktop::focusGame() const {
     return runTool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
                     QStringLiteral("--name"), QStringLiteral("^VORBEL$"), QStringLiteral("windowfocus"),

@@ -4,11 +4,14 @@
 #include <QColor>
 #include <QGuiApplication>
 #include <QImage>
+#include <QRect>
 #include <QString>
 
 #include <functional>
 
 namespace vorbel {
+
+constexpr QRect messageLine(300, 730, 600, 60); // where the display shows what the referee says
 
 class Desktop {
 public:
@@ -20,6 +23,9 @@ public:
     // Presses and releases a key, named as X names it ("space", "Left", "Tab"), in the window that has the
     // focus.
     void press(const QString& key) const;
+
+    // The same, and waits up to ten seconds until that part of the picture is another than before.
+    [[nodiscard]] bool pressUntilChanged(const QString& key, const QRect& part) const;
 
     // Waits for the game's window and gives it the keyboard. False when none appears within ten seconds.
     [[nodiscard]] bool focusGame() const;

@@ -16,7 +16,6 @@ constexpr QPoint redBorder(20, 150);
 constexpr QPoint blueBorder(1179, 150);
 constexpr QPoint blueSwitch(1128, 212); // the half of its track that the knob leaves free when it is on
 
-constexpr QRect messageLine(300, 730, 600, 60);
 constexpr QPoint barStart(412, 696); // inside the power bar's fill whenever the bar is shown
 constexpr QPoint barMiddle(570, 696);
 
@@ -104,14 +103,9 @@ private:
 
     // Whether the window shows an effect: each stage of a throw has a message of its own.
     bool pressSpace() {
-        const QImage before = picture_.copy(messageLine);
-        press("space");
-        return waitUntil(
-            [this, &before] {
-                look();
-                return picture_.copy(messageLine) != before;
-            },
-            10'000);
+        const bool changed = desktop_.pressUntilChanged(QStringLiteral("space"), messageLine);
+        look();
+        return changed;
     }
 
     Desktop& desktop_ = Desktop::instance();

@@ -3,24 +3,28 @@
 #include "tests/scenario/program/Program.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
-#include <QThread>
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace vorbel {
 
 namespace {
 
 constexpr QPoint court(600, 450);
+constexpr QPoint redBorder(20, 150); // lit while red is to throw
 const QColor courtGreen(42, 160, 96);
+const QColor red(255, 82, 71);
 
-bool showsArena() {
-    return waitUntil([] { return alike(Desktop::instance().picture().pixelColor(court), courtGreen); },
-                     10'000);
+bool shows(QPoint place, const QColor& color) {
+    return waitUntil([&] { return alike(Desktop::instance().picture().pixelColor(place), color); }, 10'000);
+}
+
+// From the main menu into a match, and its first key: the game goes on if its display does.
+void expectToPlay() {
+    Desktop::instance().startMatch();
+    EXPECT_TRUE(shows(redBorder, red)) << "the match begins";
+    EXPECT_TRUE(Desktop::instance().pressUntilChanged(QStringLiteral("space"), messageLine)) << "aiming";
 }
 
 int lines(const QString& text) {
@@ -29,18 +33,13 @@ int lines(const QString& text) {
 
 } // namespace
 
-TEST(StartTest, HelpAndVersionAnswerAtOnceWithoutADisplay) {
-    qint64 best = 1000;
-    for (const char* option : {"--help", "--version", "--help", "--version", "--help"}) {
-        QElapsedTimer clock;
-        clock.start();
+TEST(StartTest, HelpAndVersionAnswerWithoutADisplay) {
+    for (const char* option : {"--help", "--version"}) {
         Program program({QString::fromLatin1(option)}, {{QStringLiteral("DISPLAY"), QString()}});
         ASSERT_EQ(program.status(), 0);
-        best = std::min(best, clock.elapsed());
         EXPECT_FALSE(program.output().isEmpty());
         EXPECT_EQ(program.errors(), QString());
     }
-    EXPECT_LT(best, 50) << "ms";
 }
 
 TEST(StartTest, AnUnknownOptionIsOneClearLineAndStatus2) {
@@ -82,10 +81,8 @@ TEST(StartTest, TheGameGoesOnWithoutResourcesSoundAndSettings) {
           Program::Environment{{QStringLiteral("XDG_CONFIG_HOME"), QStringLiteral("/proc/nowhere")}}}) {
         Program game({}, environment);
         ASSERT_TRUE(Desktop::instance().focusGame()) << qUtf8Printable(game.errors());
-        Desktop::instance().startMatch();
-        EXPECT_TRUE(showsArena());
-        Desktop::instance().press(QStringLiteral("space"));
-        QThread::msleep(200);
+        expectToPlay();
+        EXPECT_TRUE(shows(court, courtGreen));
         EXPECT_TRUE(game.isRunning());
     }
 }
@@ -98,9 +95,7 @@ TEST(StartTest, WithoutOpenGlItSaysSoInOneLineAndTheMatchGoesOn) {
         Program game({}, environment);
         ASSERT_TRUE(Desktop::instance().focusGame());
         EXPECT_TRUE(waitUntil([&game] { return game.errors().contains(QStringLiteral("OpenGL")); }, 5'000));
-        Desktop::instance().startMatch();
-        Desktop::instance().press(QStringLiteral("space"));
-        QThread::msleep(300);
+        expectToPlay();
         EXPECT_TRUE(game.isRunning());
         EXPECT_EQ(lines(game.errors()), 1) << qUtf8Printable(game.errors());
     }

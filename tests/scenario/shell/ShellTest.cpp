@@ -84,9 +84,7 @@ protected:
 
     // From the main menu, which is open at first, into a match.
     [[nodiscard]] bool startMatch() {
-        for (int screen = 0; screen < 3; ++screen) { // main, country, class
-            press("Return");
-        }
+        Desktop::instance().startMatch();
         return waitUntil([this] { return showsCourt(); }, patience);
     }
 
