@@ -3,8 +3,10 @@
 #include <QOpenGLContext>
 #include <QQuickGraphicsConfiguration>
 #include <QQuickWindow>
+#include <QStringList>
 #include <QSurfaceFormat>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -12,14 +14,33 @@ namespace vorbel {
 
 namespace {
 
-void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+// What the toolkit warned of since the guard was made. A function to be called back gets no state of its own.
+QStringList& warnings() {
+    static QStringList all;
+    return all;
+}
+
+// In the words of the X11 and of the Wayland plug-in.
+bool saysThatNoDisplayIsReached(const QString& warning) {
+    return warning.contains(QLatin1String("could not connect to display")) ||
+           warning.contains(QLatin1String("Failed to create wl_display"));
+}
+
+// The toolkit's last word is the same whatever it failed at; its warnings say what that was.
+QString reasonToEnd(const QString& lastWord) {
+    if (std::ranges::any_of(warnings(), saysThatNoDisplayIsReached)) {
+        return QStringLiteral("no display can be reached; set DISPLAY or WAYLAND_DISPLAY, or start ./play, "
+                              "which brings its own");
+    }
+    return (warnings() + QStringList(lastWord)).join(QStringLiteral("; ")).simplified();
+}
+
+void endWhenStartFails(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type == QtFatalMsg) {
-        std::fputs(
-            "vorbel: no display can be reached; set DISPLAY or WAYLAND_DISPLAY, or start ./play, which "
-            "brings its own\n",
-            stderr);
+        std::fprintf(stderr, "vorbel: %s\n", qUtf8Printable(reasonToEnd(message)));
         std::_Exit(EXIT_FAILURE);
     }
+    warnings().append(message);
 }
 
 // The arena is drawn into pictures of its own and the rest from back to front, so the window needs no depth.
@@ -52,11 +73,12 @@ bool canDraw(const QSurfaceFormat& wanted) {
 } // namespace
 
 DisplayGuard::DisplayGuard() {
-    qInstallMessageHandler(endWithoutDisplay);
+    qInstallMessageHandler(endWhenStartFails);
 }
 
 DisplayGuard::~DisplayGuard() {
     qInstallMessageHandler(nullptr);
+    warnings().clear();
 }
 
 void chooseGraphics() {

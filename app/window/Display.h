@@ -5,8 +5,8 @@ class QQuickWindow;
 
 namespace vorbel {
 
-// For as long as it lives, a failure to reach any display ends the program with one clear sentence and
-// status 1. Make it before the application object.
+// For as long as it lives, whatever the toolkit gives up for ends the program with status 1 and one clear
+// line: that no display can be reached, or else what the toolkit said. Make it before the application object.
 class DisplayGuard {
 public:
     DisplayGuard();

@@ -55,7 +55,16 @@ TEST(StartTest, WithoutADisplayItSaysSoInOneLineAndStatus1) {
             {}, {{QStringLiteral("DISPLAY"), display}, {QStringLiteral("WAYLAND_DISPLAY"), QString()}});
         EXPECT_EQ(program.status(), 1);
         EXPECT_EQ(lines(program.errors()), 1) << qUtf8Printable(program.errors());
+        EXPECT_TRUE(program.errors().contains(QStringLiteral("no display")));
     }
+}
+
+TEST(StartTest, WhatElseTheToolkitGivesUpForIsSaidInOneLineAndStatus1) {
+    Program program({}, {{QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("none-such")}});
+    EXPECT_EQ(program.status(), 1);
+    EXPECT_EQ(lines(program.errors()), 1) << qUtf8Printable(program.errors());
+    EXPECT_TRUE(program.errors().contains(QStringLiteral("none-such"))) << qUtf8Printable(program.errors());
+    EXPECT_FALSE(program.errors().contains(QStringLiteral("no display")));
 }
 
 TEST(StartTest, AScreenshotIsAPictureOfTheArena) {
