@@ -54,7 +54,9 @@ void SceneView::attach(QQuickWindow& window) {
     });
     connect(&window, &QQuickWindow::frameSwapped, pacer_.get(), &FramePacer::frameShown,
             Qt::QueuedConnection);
-    connect(&window, &QQuickWindow::beforeSynchronizing, this, &SceneView::copyFrame, Qt::DirectConnection);
+    connect(
+        &window, &QQuickWindow::beforeSynchronizing, this, [this, &window] { copyFrame(window); },
+        Qt::DirectConnection);
     connect(
         &window, &QQuickWindow::beforeRenderPassRecording, this, [this, &window] { drawFrame(window); },
         Qt::DirectConnection);
@@ -109,7 +111,8 @@ void SceneView::reportLater(const std::string& problem) {
     QMetaObject::invokeMethod(this, [this, problem] { report(QString::fromStdString(problem)); });
 }
 
-void SceneView::copyFrame() {
+void SceneView::copyFrame(const QQuickWindow& window) {
+    drawing_->size = window.size() * window.effectiveDevicePixelRatio();
     copyScene(view_->gameLogic().scene, tickFraction(), drawing_->frame);
     view_->changes().hold();
     pacer_->frameBegan();
@@ -130,9 +133,8 @@ void SceneView::drawFrame(QQuickWindow& window) {
         }
     }
     if (drawing.renderer) {
-        const QSize size = window.size() * window.effectiveDevicePixelRatio();
         const GLuint target = QOpenGLContext::currentContext()->defaultFramebufferObject();
-        drawing.renderer->draw(drawing.frame, target, size.width(), size.height());
+        drawing.renderer->draw(drawing.frame, target, drawing.size.width(), drawing.size.height());
         if (const std::string& problem = drawing.renderer->problem(); !problem.empty()) {
             reportLater(problem);
         }

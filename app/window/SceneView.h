@@ -42,6 +42,7 @@ private:
     // Belongs to the render thread; the main thread has it only while that waits.
     struct Drawing {
         Frame frame;
+        QSize size; // of the window, in pixels
         std::unique_ptr<Pictures> pictures;
         std::unique_ptr<Renderer> renderer;
         bool failed = false;
@@ -55,7 +56,7 @@ private:
     void report(const QString& problem);
     void reportLater(const std::string& problem);
 
-    void copyFrame();
+    void copyFrame(const QQuickWindow& window);
     void drawFrame(QQuickWindow& window); // on the render thread
 
     ContentView* view_ = nullptr;
