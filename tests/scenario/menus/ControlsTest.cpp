@@ -174,10 +174,15 @@ TEST_F(ControlsTest, TheMousePressesButtonsAndNothingBehindThem) {
     click(QStringLiteral("Croatia"));
     EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::country);
     EXPECT_EQ(view.settings()->selectedCountry(), Country::croatia);
-    for (int x = 10; x < 1200; x += 15) { // along the switches and levels of the display behind
-        for (const int y : {200, 212, 230, 245}) {
-            QTest::mouseClick(&game.window(), Qt::LeftButton, {}, {x, y});
-        }
+    std::vector<QQuickItem*> behind;
+    collect(
+        *game.window().contentItem(),
+        [](QQuickItem& item) { return isOfType(item, "DifficultyButton") || isOfType(item, "ToggleSwitch"); },
+        behind);
+    ASSERT_EQ(behind.size(), 6U) << "four levels and two switches";
+    for (const QQuickItem* item : behind) {
+        QTest::mouseClick(&game.window(), Qt::LeftButton, {}, inScene(*item).center().toPoint());
+        game.settle();
     }
     EXPECT_FALSE(view.settings()->redAIOn());
     EXPECT_FALSE(view.settings()->blueAIOn());

@@ -79,7 +79,9 @@ public:
     [[nodiscard]] bool play(const Program& game) {
         look();
         if (redOnTurn()) {
-            if (!seesPower(barStart) || seesPower(barMiddle)) {
+            const bool powerSwings = seesPower(barStart);
+            const bool powerIsEnough = seesPower(barMiddle);
+            if (!powerSwings || powerIsEnough) {
                 pressSpace();
             }
         } else if (!blueOnTurn()) {
