@@ -31,9 +31,9 @@ namespace vorbel {
 
 namespace {
 
-// Lets freed memory go back to the system. The library's own rule keeps more and more once large blocks, such
-// as decoded pictures, were freed, and a separate store for each thread. A lower limit would hold less still,
-// but costs 30 ms at every start.
+// Lets freed memory go back to the system. Left to itself the library keeps more and more once large blocks,
+// such as decoded pictures, were freed, and it keeps a store for each thread. A lower limit would hold less
+// still, but costs 30 ms at every start.
 void configureMemory() {
 #ifdef __GLIBC__
     constexpr int largeBlock = 1024 * 1024; // bytes

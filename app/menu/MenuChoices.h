@@ -1,5 +1,5 @@
-// What the player chooses before a match: language, country and sport class, as lists with one selected
-// place.
+// What the player chooses before a match: language, country and sport class.
+// Each is a list with one selected place.
 #pragma once
 
 #include <QObject>

@@ -16,8 +16,8 @@ namespace vorbel {
 // which are large: one of them does for all names.
 [[nodiscard]] QString nameFontFamily(AppLanguage language);
 
-// Makes the substitutes known and the default font "Noto Sans". Call once, after the application object is
-// made.
+// Makes the substitutes known and the default font "Noto Sans".
+// Call once, after the application object was made.
 void prepareFonts();
 
 [[nodiscard]] constexpr bool isRightToLeft(AppLanguage language) {

@@ -39,7 +39,8 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
-    // Belongs to the render thread; the main thread has it only while that waits.
+    // The render thread fills it while the main thread waits, and then draws from it alone. The main thread
+    // touches it only before the window is made.
     struct Drawing {
         Frame frame;
         QSize size; // of the window, in pixels

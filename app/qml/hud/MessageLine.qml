@@ -1,4 +1,4 @@
-// What the referee says. Screen readers are told of every new message.
+// What the referee says. Each message reaches the accessibility bus as the new name of the line.
 import QtQuick
 import Vorbel
 

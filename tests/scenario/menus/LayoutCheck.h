@@ -8,8 +8,8 @@
 namespace vorbel {
 
 // One line for each text below the item that is cut off, leaves its parents or the window, or overlaps
-// another text. What a scrolling area hides for the moment is not looked at. The window must have been drawn
-// before.
+// another text. What a scrolling area hides for the moment is not looked at.
+// The window must have been drawn before.
 [[nodiscard]] QStringList unreadableTexts(QQuickItem& root);
 
 } // namespace vorbel
