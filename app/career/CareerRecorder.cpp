@@ -6,7 +6,7 @@
 namespace vorbel {
 
 // A phase is told before it changes; the scores of the match are final by then.
-CareerRecorder::CareerRecorder(GameLogic& match, Career& career, std::function<void()> recorded)
+CareerRecorder::CareerRecorder(const GameLogic& match, Career& career, std::function<void()> recorded)
     : phaseChanges_(
           match.phase.onWillChange([&match, &career, recorded = std::move(recorded)](const GamePhase& next) {
               if (next == GamePhase::gameOver && match.phase != GamePhase::gameOver) {

@@ -15,7 +15,7 @@ class GameLogic;
 class CareerRecorder {
 public:
     // Calls `recorded` after each match that was added. Match and career must outlive it.
-    CareerRecorder(GameLogic& match, Career& career, std::function<void()> recorded);
+    CareerRecorder(const GameLogic& match, Career& career, std::function<void()> recorded);
 
 private:
     Subscription phaseChanges_;

@@ -39,11 +39,6 @@ ContentView::ContentView(const Platform& platform, UserDefaults& defaults)
 void ContentView::appear() {
     gameLogic_.startAimingLoop();
     settings_.handOverLanguage();
-    // Started after the match's own tick, and hopping over the queue as that does, so it follows each tick.
-    MainQueue& queue = platform_.mainQueue;
-    pulse_ = queue.repeat(GameLogic::tickPeriod, lifetime_.whileAlive([this, &queue] {
-        queue.post(lifetime_.whileAlive([this] { emit ticked(); }));
-    }));
 }
 
 void ContentView::receiveNotifications(NotificationCenter& center) {

@@ -53,9 +53,6 @@ public:
     [[nodiscard]] HudModel* hud() { return &hud_; }
     [[nodiscard]] MenuModel* menu() { return &menu_; }
 
-signals:
-    void ticked(); // the match has moved on by one tick
-
 private:
     void refresh();
     void updatePointer();
@@ -71,9 +68,7 @@ private:
     HudModel hud_;
     MenuModel menu_;
     std::vector<Subscription> notifications_;
-    Subscription pulse_;
     std::pair<double, double> shownAim_{0, 0}; // angle and pitch that the pointer was last turned to
-    Lifetime lifetime_;
 };
 
 } // namespace vorbel

@@ -5,11 +5,11 @@
 namespace vorbel {
 
 template <typename T>
-void MatchChanges::observe(Published<T>& value) {
+void MatchChanges::observe(const Published<T>& value) {
     observations_.push_back(value.onWillChange([this](const T&) { tellSoon(); }));
 }
 
-MatchChanges::MatchChanges(GameLogic& match, MainQueue& queue) : queue_(queue) {
+MatchChanges::MatchChanges(const GameLogic& match, MainQueue& queue) : queue_(queue) {
     observe(match.message);
     observe(match.aimState);
     observe(match.phase);

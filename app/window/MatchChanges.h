@@ -16,7 +16,7 @@ class MatchChanges final : public QObject {
 
 public:
     // Both must outlive it.
-    MatchChanges(GameLogic& match, MainQueue& queue);
+    MatchChanges(const GameLogic& match, MainQueue& queue);
 
     void tellSoon(); // something that is shown beside the match has changed
 
@@ -30,7 +30,7 @@ signals:
 
 private:
     template <typename T>
-    void observe(Published<T>& value);
+    void observe(const Published<T>& value);
     void tell();
 
     MainQueue& queue_;

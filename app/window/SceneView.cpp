@@ -32,7 +32,7 @@ void SceneView::setView(ContentView* view) {
     drawing_->pictures = std::make_unique<Pictures>(view_->resources());
     copyScene(view_->gameLogic().scene, 1, drawing_->frame);
     drawing_->pictures->announce(drawing_->frame); // read while the window is being made
-    connect(view_, &ContentView::ticked, this, &SceneView::matchTicked);
+    ticks_ = view_->gameLogic().onTick([this] { matchTicked(); });
     connect(&view_->changes(), &MatchChanges::changed, this, &SceneView::requestFrame);
     emit viewChanged();
 }

@@ -61,6 +61,7 @@ private:
     void drawFrame(QQuickWindow& window); // on the render thread
 
     ContentView* view_ = nullptr;
+    Subscription ticks_;
     QString problem_;
     std::unique_ptr<FramePacer> pacer_;
     std::shared_ptr<Drawing> drawing_;

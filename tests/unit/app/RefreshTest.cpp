@@ -46,9 +46,11 @@ TEST_F(RefreshTest, APictureThatBeginsAfterTheChangeHoldsItBackToo) {
     EXPECT_EQ(view.hud()->redScore(), 1);
 }
 
-TEST_F(RefreshTest, TheViewTicksWithTheMatch) {
+TEST_F(RefreshTest, TheMatchTicksFromTheFirstAppearanceOn) {
     int ticks = 0;
-    QObject::connect(&view, &ContentView::ticked, &view, [&ticks] { ++ticks; });
+    const Subscription counting = match.onTick([&ticks] { ++ticks; });
+    platform.queue.advance(1);
+    EXPECT_EQ(ticks, 0);
     view.appear();
     platform.queue.advance(1);
     EXPECT_EQ(ticks, 50);
