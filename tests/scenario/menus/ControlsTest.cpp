@@ -23,10 +23,6 @@ QAccessibleInterface* accessible(QQuickItem& item) {
     return QAccessible::queryAccessibleInterface(&item);
 }
 
-QRectF inScene(const QQuickItem& item) {
-    return item.mapRectToScene({0, 0, item.width(), item.height()});
-}
-
 } // namespace
 
 class ControlsTest : public testing::Test {

@@ -25,6 +25,10 @@ bool isOfType(const QQuickItem& item, const char* className) {
     return false;
 }
 
+QRectF inScene(const QQuickItem& item) {
+    return item.mapRectToScene({0, 0, item.width(), item.height()});
+}
+
 MenuWindow::MenuWindow(const Resources& resources) : view_(withResources(platform_, resources), defaults_) {
     engine_.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view_)},
                                   {QStringLiteral("shell"), QVariant::fromValue(&shell_)}});

@@ -63,6 +63,8 @@ void collect(QQuickItem& item, Predicate wanted, std::vector<QQuickItem*>& found
     }
 }
 
+[[nodiscard]] QRectF inScene(const QQuickItem& item); // where it lies in the window
+
 [[nodiscard]] bool isOfType(const QQuickItem& item,
                             const char* className); // its own type or one it derives from
 

@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QGuiApplication>
 #include <QImage>
+#include <QPoint>
 #include <QRect>
 #include <QString>
 
@@ -11,7 +12,15 @@
 
 namespace vorbel {
 
-constexpr QRect messageLine(300, 730, 600, 60); // where the display shows what the referee says
+// Where a window of the smallest size in the screen's upper left corner shows what is looked at.
+inline constexpr QPoint court(600, 450);
+inline constexpr QPoint redBorder(20, 150); // lit while it is that side's turn
+inline constexpr QPoint blueBorder(1179, 150);
+inline constexpr QRect messageLine(300, 730, 600, 60);
+
+inline const QColor courtGreen(42, 160, 96);
+inline const QColor red(255, 82, 71);
+inline const QColor blue(77, 163, 255);
 
 class Desktop {
 public:

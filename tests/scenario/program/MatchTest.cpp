@@ -11,17 +11,10 @@ namespace vorbel {
 namespace {
 
 // Where a window of 1200 × 800 at the screen's corner shows what is looked at.
-constexpr QPoint court(600, 450);
-constexpr QPoint redBorder(20, 150);
-constexpr QPoint blueBorder(1179, 150);
 constexpr QPoint blueSwitch(1128, 212); // the half of its track that the knob leaves free when it is on
 
 constexpr QPoint barStart(412, 696); // inside the power bar's fill whenever the bar is shown
 constexpr QPoint barMiddle(570, 696);
-
-const QColor courtGreen(42, 160, 96);
-const QColor red(255, 82, 71);
-const QColor blue(77, 163, 255);
 
 constexpr int patience = 300'000; // ms for a match in fast motion, on a busy machine without a graphics card
 const Program::Environment fastMotion{{QStringLiteral("VORBEL_SPEED"), QStringLiteral("8")}};

@@ -11,11 +11,6 @@ namespace vorbel {
 
 namespace {
 
-constexpr QPoint court(600, 450);
-constexpr QPoint redBorder(20, 150); // lit while red is to throw
-const QColor courtGreen(42, 160, 96);
-const QColor red(255, 82, 71);
-
 bool shows(QPoint place, const QColor& color) {
     return waitUntil([&] { return alike(Desktop::instance().picture().pixelColor(place), color); }, 10'000);
 }

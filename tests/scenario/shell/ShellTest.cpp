@@ -24,7 +24,6 @@ constexpr QPoint inCourt(617, 480);    // of the window
 constexpr QPoint inMenuBar(700, 15);   // of the window, in full screen of the screen too
 constexpr QPoint inGameMenu(150, 136); // below the bar, in the menu's own ground
 
-const QColor courtGreen(42, 160, 96);
 const QColor barColor(0x16, 0x16, 0x1f);
 const QColor menuColor(0x22, 0x22, 0x2e);
 

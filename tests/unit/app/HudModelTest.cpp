@@ -6,12 +6,6 @@ namespace vorbel {
 class HudModelTest : public ViewTest {
 protected:
     const HudModel& hud = *view.hud();
-
-    void speak(AppLanguage language) {
-        settings.setSelectedLanguage(language);
-        letQueueRun();
-        letQueueRun(); // the language first, then what follows from it
-    }
 };
 
 TEST_F(HudModelTest, ShowsTheStartOfAMatchBeforeAnythingHappens) {

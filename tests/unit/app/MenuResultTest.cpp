@@ -9,8 +9,7 @@ protected:
     MenuResult& result = *menu.result();
 
     MenuResultTest() {
-        settings.setSelectedLanguage(AppLanguage::en);
-        letQueueRun();
+        speak(AppLanguage::en);
         hideMenu();
     }
 
@@ -43,9 +42,7 @@ TEST_F(MenuResultTest, ListsEachEndWithBothSidesPoints) {
 
 TEST_F(MenuResultTest, FollowsTheLanguageWhileItIsShown) {
     finishMatch(5, 2);
-    settings.setSelectedLanguage(AppLanguage::ru);
-    letQueueRun();
-    letQueueRun();
+    speak(AppLanguage::ru);
     EXPECT_EQ(result.winner(), QString::fromStdString(match.matchWinnerTitle()));
     EXPECT_EQ(result.redName(), QString::fromStdString(match.t("team.red")));
 }

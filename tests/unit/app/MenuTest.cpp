@@ -21,11 +21,6 @@ protected:
         menu.chooseClass();
         menu.play();
     }
-    void speak(AppLanguage language) {
-        settings.setSelectedLanguage(language);
-        letQueueRun();
-        letQueueRun(); // the language first, then what follows from it
-    }
 };
 
 TEST_F(MenuTest, TheGameStartsWithTheMainMenu) {

@@ -23,6 +23,11 @@ protected:
     // Runs what was posted to the main queue.
     void letQueueRun() { platform.queue.advance(0); }
 
+    void speak(AppLanguage language) {
+        settings.setSelectedLanguage(language);
+        letQueueRun();
+        letQueueRun(); // the language first, then what follows from it
+    }
     void hideMenu() { openMenu.setMenuScreen(MenuScreen::hidden); }
 
     // Ends the match with these scores; nothing that waits in the main queue has run yet.
