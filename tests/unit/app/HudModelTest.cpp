@@ -62,12 +62,14 @@ TEST_F(HudModelTest, OnlyTheRampClassGetsTheRampHint) {
 
 TEST_F(HudModelTest, TheTournamentLineIsShownWhileATournamentRuns) {
     speak(AppLanguage::en);
-    match.tournamentActive = true;
-    match.tournamentRound = 2;
+    match.startTournament(Country::japan);
+    finishMatch(5, 2);
+    view.menu()->goOn();
     letQueueRun();
     EXPECT_TRUE(hud.tournament().startsWith(QStringLiteral("Tournament 2")))
         << qUtf8Printable(hud.tournament());
-    match.tournamentActive = false;
+    finishMatch(1, 2);
+    view.menu()->goOn();
     letQueueRun();
     EXPECT_TRUE(hud.tournament().isEmpty());
 }
@@ -89,7 +91,7 @@ TEST_F(HudModelTest, ThePowerBarIsShownOnlyWhileThePowerSwings) {
 }
 
 TEST_F(HudModelTest, NobodyIsOnTurnAfterAnEnd) {
-    match.phase = GamePhase::endOver;
+    playEnd();
     letQueueRun();
     EXPECT_FALSE(hud.redOnTurn());
     EXPECT_FALSE(hud.blueOnTurn());

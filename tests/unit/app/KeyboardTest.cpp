@@ -5,18 +5,18 @@ namespace vorbel {
 using KeyboardTest = ViewTest;
 
 TEST_F(KeyboardTest, KeysDoNothingWhileAMenuIsOpen) {
+    hideMenu();
+    keyboard.pressAction();
     for (const MenuScreen screen :
          {MenuScreen::main, MenuScreen::country, MenuScreen::bcClass, MenuScreen::rules, MenuScreen::about,
           MenuScreen::diary, MenuScreen::matchResult}) {
         openMenu.setMenuScreen(screen);
         keyboard.pressAction();
-        EXPECT_EQ(match.aimState, AimState::idle);
-        match.aimState = AimState::aimingAngle;
+        EXPECT_EQ(match.aimState, AimState::aimingAngle);
         keyboard.pressRight();
         keyboard.pressUp();
         EXPECT_EQ(match.aimAngle, 0);
         EXPECT_EQ(match.aimPitch, 0);
-        match.aimState = AimState::idle;
     }
 }
 

@@ -16,8 +16,7 @@ protected:
 
     void played(int matches) { defaults.setInteger("boccia_gamesPlayed", matches); }
     void finishAnotherMatch(int red, int blue) {
-        match.phase = GamePhase::throwingJack;
-        letQueueRun();
+        view.menu()->goOn();
         finishMatch(red, blue);
     }
     [[nodiscard]] QString shown(int row, MenuDiary::Role role) const {
@@ -26,33 +25,33 @@ protected:
 };
 
 TEST_F(MenuCareerTest, TheFirstRankIsNovice) {
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: Novice"));
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 0 · to next rank: 3"));
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: Novice"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 0 · to next rank: 3"));
 }
 
 TEST_F(MenuCareerTest, WithTwoMatchesOneMoreIsNeededForTheNextRank) {
     played(2);
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: Novice"));
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 2 · to next rank: 1"));
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: Novice"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 2 · to next rank: 1"));
 }
 
 TEST_F(MenuCareerTest, WithThreeMatchesTheNextRankIsThreeMoreAway) {
     played(3);
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: 3rd Junior Class"));
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 3 · to next rank: 3"));
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: 3rd Junior Class"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 3 · to next rank: 3"));
 }
 
 TEST_F(MenuCareerTest, WithFiftyNineMatchesOneMoreIsNeededForTheTopRank) {
     played(59);
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: Candidate Master of Sport"));
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 59 · to next rank: 1"));
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: Candidate Master of Sport"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 59 · to next rank: 1"));
 }
 
 TEST_F(MenuCareerTest, FromSixtyMatchesOnTheTopRankIsReached) {
     for (const int matches : {60, 61, 1000}) {
         played(matches);
-        EXPECT_EQ(career.rank(), QStringLiteral("Rank: Master of Sport"));
-        EXPECT_EQ(career.games(), QStringLiteral("Matches played: %1 · max rank reached").arg(matches));
+        EXPECT_EQ(lines.rank(), QStringLiteral("Rank: Master of Sport"));
+        EXPECT_EQ(lines.games(), QStringLiteral("Matches played: %1 · max rank reached").arg(matches));
     }
 }
 
@@ -60,11 +59,11 @@ TEST_F(MenuCareerTest, TheRankDependsOnMatchesAlone) {
     played(3);
     defaults.setInteger("boccia_athleteXP", 500);
     career.setRealAthlete(true);
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: 3rd Junior Class"));
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: 3rd Junior Class"));
 }
 
 TEST_F(MenuCareerTest, TheAthleteSwitchIsKeptForTheNextLaunch) {
-    EXPECT_FALSE(career.isRealAthlete());
+    EXPECT_FALSE(lines.isRealAthlete());
     lines.setRealAthlete(true);
     EXPECT_EQ(defaults.boolean("boccia_isRealAthlete"), true);
     ContentView next(platform.services(), defaults);
@@ -80,8 +79,8 @@ TEST_F(MenuCareerTest, TheCareerLinesFollowEachMatchAndSwitch) {
     EXPECT_EQ(changes, 1);
     finishMatch(5, 2);
     EXPECT_EQ(changes, 2);
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 1 · to next rank: 2"));
-    EXPECT_EQ(career.totalXP(), QStringLiteral("Experience (XP): 1"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 1 · to next rank: 2"));
+    EXPECT_EQ(lines.totalXP(), QStringLiteral("Experience (XP): 1"));
 }
 
 TEST_F(MenuCareerTest, TheDiaryShowsTheNewestMatchFirst) {

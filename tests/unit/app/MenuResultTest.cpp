@@ -1,6 +1,8 @@
 // The screen after a match: what it shows, and how it goes on from there.
 #include "tests/unit/app/ViewFixture.h"
 
+#include <numeric>
+
 namespace vorbel {
 
 class MenuResultTest : public ViewTest {
@@ -13,10 +15,10 @@ protected:
         hideMenu();
     }
 
-    void finishTournamentMatch(int round, int red, int blue) {
-        match.tournamentActive = true;
-        match.tournamentRound = round;
-        finishMatch(red, blue);
+    void reachRound(int round) {
+        for (match.startTournament(Country::france); match.tournamentRound < round; menu.goOn()) {
+            finishMatch(5, 2);
+        }
     }
 };
 
@@ -32,12 +34,19 @@ TEST_F(MenuResultTest, IsShownWhenAMatchEnds) {
 }
 
 TEST_F(MenuResultTest, ListsEachEndWithBothSidesPoints) {
-    match.endHistory = std::vector<EndResult>{{1, 2, 0}, {2, 0, 1}, {3, 0, 0}, {4, 3, 0}};
-    finishMatch(5, 1);
-    EXPECT_EQ(result.ends(), QStringList({QStringLiteral("End 1"), QStringLiteral("End 2"),
-                                          QStringLiteral("End 3"), QStringLiteral("End 4")}));
-    EXPECT_EQ(result.redPoints(), QList<int>({2, 0, 0, 3}));
-    EXPECT_EQ(result.bluePoints(), QList<int>({0, 1, 0, 0}));
+    playMatch();
+    letQueueRun();
+    const std::vector<EndResult>& history = match.endHistory;
+    ASSERT_GE(history.size(), 4U);
+    ASSERT_EQ(result.ends().size(), static_cast<int>(history.size()));
+    EXPECT_EQ(result.ends().mid(0, 4), QStringList({QStringLiteral("End 1"), QStringLiteral("End 2"),
+                                                    QStringLiteral("End 3"), QStringLiteral("End 4")}));
+    for (int i = 0; i < result.ends().size(); ++i) {
+        EXPECT_EQ(result.redPoints()[i], history[static_cast<std::size_t>(i)].red);
+        EXPECT_EQ(result.bluePoints()[i], history[static_cast<std::size_t>(i)].blue);
+    }
+    EXPECT_EQ(std::accumulate(result.redPoints().begin(), result.redPoints().end(), 0), result.redScore());
+    EXPECT_EQ(std::accumulate(result.bluePoints().begin(), result.bluePoints().end(), 0), result.blueScore());
 }
 
 TEST_F(MenuResultTest, FollowsTheLanguageWhileItIsShown) {
@@ -59,19 +68,20 @@ TEST_F(MenuResultTest, OfASingleMatchLeadsToTheMainMenuWithANewMatchBehindIt) {
 TEST_F(MenuResultTest, OfAWonRoundLeadsToTheNextRound) {
     for (const int round : {1, 2, 3}) {
         hideMenu();
-        finishTournamentMatch(round, 5, 2);
+        reachRound(round);
+        finishMatch(5, 2);
         EXPECT_EQ(result.tournament(), QStringLiteral("Tournament"));
         EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Next Round"));
         menu.goOn();
         EXPECT_EQ(openMenu.menuScreen(), MenuScreen::hidden);
         EXPECT_EQ(match.tournamentRound, round + 1);
         EXPECT_TRUE(match.tournamentActive);
-        letQueueRun();
     }
 }
 
 TEST_F(MenuResultTest, OfTheLastRoundLeadsToTheMainMenuAsChampion) {
-    finishTournamentMatch(4, 5, 2);
+    reachRound(4);
+    finishMatch(5, 2);
     EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Main Menu"));
     menu.goOn();
     EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
@@ -80,7 +90,8 @@ TEST_F(MenuResultTest, OfTheLastRoundLeadsToTheMainMenuAsChampion) {
 }
 
 TEST_F(MenuResultTest, OfALostRoundLeadsToTheMainMenu) {
-    finishTournamentMatch(2, 1, 2);
+    reachRound(2);
+    finishMatch(1, 2);
     EXPECT_EQ(result.tournament(), QStringLiteral("Tournament"));
     EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Main Menu"));
     menu.goOn();

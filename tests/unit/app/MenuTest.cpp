@@ -120,18 +120,23 @@ TEST_F(MenuTest, ASingleMatchBeginsWithTheFirstMessageInThePlayersLanguage) {
 }
 
 TEST_F(MenuTest, InRussianTheMessageOfTheMatchStaysAsItIs) {
-    match.message = "Шар в игре...";
+    const std::string first = match.message;
+    throwJack();
+    const std::string later = match.message;
+    ASSERT_NE(later, first);
     startSingleMatch();
-    EXPECT_EQ(match.message.get(), "Шар в игре...");
+    EXPECT_EQ(match.message.get(), later);
 }
 
 TEST_F(MenuTest, ASingleMatchResetsNothing) {
-    match.redScore = 3;
-    match.currentEnd = 2;
-    match.tournamentActive = true;
+    match.startTournament(Country::france);
+    playEnd();
+    keyboard.pressAction();
+    const int points = match.redScore + match.blueScore;
+    ASSERT_GT(points, 0);
     settings.setSelectedLanguage(AppLanguage::en);
     startSingleMatch();
-    EXPECT_EQ(match.redScore, 3);
+    EXPECT_EQ(match.redScore + match.blueScore, points);
     EXPECT_EQ(match.currentEnd, 2);
     EXPECT_TRUE(match.tournamentActive);
 }

@@ -51,22 +51,21 @@ TEST_F(ShellMenuTest, EachNotificationOpensItsScreenFromEveryOther) {
 }
 
 TEST_F(ShellMenuTest, ANewGameDuringAMatchOpensTheMainMenuAndStartsNothing) {
-    hideMenu();
-    match.redScore = 2;
-    match.blueScore = 1;
-    match.currentEnd = 3;
-    match.phase = GamePhase::playing;
-    match.redBallsLeft = 4;
+    playEnd();
+    keyboard.pressAction();
+    const int redScore = match.redScore;
+    const int blueScore = match.blueScore;
+    settings.setRedAIOn(false);
+    settings.setBlueAIOn(false);
+    letQueueRun();
     keyboard.pressAction();
     ASSERT_EQ(match.aimState, AimState::aimingAngle);
     shell.requestNewGame();
     letQueueRun();
     EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
-    EXPECT_EQ(match.redScore, 2);
-    EXPECT_EQ(match.blueScore, 1);
-    EXPECT_EQ(match.currentEnd, 3);
-    EXPECT_EQ(match.phase, GamePhase::playing);
-    EXPECT_EQ(match.redBallsLeft, 4);
+    EXPECT_EQ(match.redScore, redScore);
+    EXPECT_EQ(match.blueScore, blueScore);
+    EXPECT_EQ(match.currentEnd, 2);
     EXPECT_EQ(match.aimState, AimState::aimingAngle);
     EXPECT_EQ(career.gamesPlayed(), 0);
 }

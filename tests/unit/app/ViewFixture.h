@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 namespace vorbel {
 
 class ViewTest : public testing::Test {
@@ -41,24 +44,50 @@ protected:
         letQueueRun();
     }
 
-    // The computer plays both sides, from the first jack to the result.
-    void playMatch() {
-        view.appear();
-        hideMenu();
+    // Red's jack, by its keys, until it rests.
+    void throwJack() {
+        appearAndHideMenu();
+        for (int stage = 0; stage < 3; ++stage) { // aim, power, throw
+            platform.queue.advance(0.5);
+            keyboard.pressAction();
+        }
+        playUntil(
+            [this] { return match.phase == GamePhase::playing || match.currentTurn != BallColor::red; });
+    }
+
+    // The computer plays both sides to the end of this end.
+    void playEnd() {
+        appearAndHideMenu();
         settings.setRedAIOn(true);
         settings.setBlueAIOn(true);
-        for (int second = 0; second < 3600 && match.phase != GamePhase::gameOver; ++second) {
-            platform.queue.advance(1);
-            if (match.phase == GamePhase::endOver) {
-                keyboard.pressAction();
-            }
+        playUntil([this] { return match.phase == GamePhase::endOver || match.phase == GamePhase::gameOver; });
+    }
+    void playMatch() {
+        for (playEnd(); match.phase == GamePhase::endOver; playEnd()) {
+            keyboard.pressAction();
         }
-        ASSERT_EQ(match.phase, GamePhase::gameOver);
+    }
+
+    void playUntil(const std::function<bool()>& done) {
+        for (int tick = 0; tick < 100'000 && !done(); ++tick) {
+            platform.queue.advance(GameLogic::tickPeriod);
+        }
+        ASSERT_TRUE(done());
+    }
+
+    void appearAndHideMenu() {
+        if (!std::exchange(appeared_, true)) {
+            view.appear();
+        }
+        hideMenu();
     }
 
     [[nodiscard]] Quat pointerOrientation() const {
         return match.scene.root->findChild("pointer")->orientation();
     }
+
+private:
+    bool appeared_ = false;
 };
 
 } // namespace vorbel
