@@ -1,6 +1,8 @@
 // An OpenGL context with a framebuffer, without a window.
 #pragma once
 
+#include "platform/render/OpenGlFormat.h"
+
 #include <QImage>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
@@ -16,11 +18,7 @@ namespace vorbel {
 class OffscreenTarget {
 public:
     OffscreenTarget(int width, int height) {
-        QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-        if (format.renderableType() != QSurfaceFormat::OpenGLES) {
-            format.setVersion(3, 3);
-            format.setProfile(QSurfaceFormat::CoreProfile);
-        }
+        const QSurfaceFormat format = openGlFormat();
         surface_.setFormat(format);
         surface_.create();
         context_.setFormat(format);
