@@ -17,10 +17,6 @@ bool looksTheSame(const DrawItem& a, const DrawItem& b) {
     return a.opacity == b.opacity && a.shape == b.shape && a.material == b.material;
 }
 
-bool isSeeThrough(const DrawItem& item) {
-    return item.opacity * item.material.diffuse.alpha < 1;
-}
-
 bool mayHide(const DrawItem& item, const ItemBounds& bounds) {
     const auto* box = std::get_if<Box>(&item.shape);
     return box != nullptr && box->chamferRadius == 0 && !isSeeThrough(item) &&
@@ -30,8 +26,7 @@ bool mayHide(const DrawItem& item, const ItemBounds& bounds) {
 } // namespace
 
 const DrawItem* floorOf(const Frame& frame) {
-    const auto floor = std::ranges::find_if(
-        frame.items, [](const DrawItem& item) { return std::holds_alternative<Floor>(item.shape); });
+    const auto floor = std::ranges::find_if(frame.items, isFloor);
     return floor == frame.items.end() ? nullptr : &*floor;
 }
 
@@ -76,7 +71,7 @@ bool TrackedFrame::followItems(const std::vector<DrawItem>& next) {
 void TrackedFrame::replace(std::size_t index, const DrawItem& next) {
     DrawItem& item = frame_.items[index];
     damage_.looks = damage_.looks || !looksTheSame(item, next) || isSeeThrough(next);
-    damage_.picture = damage_.picture || std::holds_alternative<Floor>(next.shape);
+    damage_.picture = damage_.picture || isFloor(next);
     damage_.moved.push_back(index);
     mark(bounds_[index]);
     item = next;
@@ -102,15 +97,14 @@ void TrackedFrame::restructure(const std::vector<DrawItem>& next) {
             bounds.push_back(bounds_[place->second]);
             from = place->second + 1;
         } else {
-            damage_.picture = damage_.picture || std::holds_alternative<Floor>(item.shape);
+            damage_.picture = damage_.picture || isFloor(item);
             bounds.push_back(measure(item));
             mark(bounds.back());
         }
     }
     std::for_each(bounds_.begin() + static_cast<std::ptrdiff_t>(from), bounds_.end(),
                   [this](const ItemBounds& gone) { mark(gone); });
-    const std::ptrdiff_t floors = std::ranges::count_if(
-        frame_.items, [](const DrawItem& item) { return std::holds_alternative<Floor>(item.shape); });
+    const std::ptrdiff_t floors = std::ranges::count_if(frame_.items, isFloor);
     frame_.items = next;
     bounds_ = std::move(bounds);
     damage_.picture = damage_.picture || floors != (floorOf(frame_) != nullptr ? 1 : 0);
@@ -149,7 +143,7 @@ void TrackedFrame::measureAll() {
 
 ItemBounds TrackedFrame::measure(const DrawItem& item) const {
     ItemBounds bounds;
-    if (std::holds_alternative<Floor>(item.shape)) {
+    if (isFloor(item)) {
         bounds.seen = {0, 0, view_.width, view_.height};
         return bounds;
     }
