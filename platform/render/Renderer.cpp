@@ -36,6 +36,8 @@ constexpr long shadowOverhead = 4000;
 } // namespace
 
 struct Renderer::Parts {
+    explicit Parts(int largestTexture) : tracked(largestTexture) {}
+
     Redraw redraw = Redraw::changes;
     std::unique_ptr<BatchDrawer> drawer;
     std::unique_ptr<RegionPainter> painter;
@@ -74,7 +76,9 @@ std::unique_ptr<Renderer> Renderer::create(Pictures& pictures, std::string& erro
         error = "The graphics driver cannot draw into a multisampled picture of half floats.";
         return nullptr;
     }
-    auto parts = std::make_unique<Parts>();
+    GLint largestTexture = 1;
+    gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largestTexture);
+    auto parts = std::make_unique<Parts>(largestTexture);
     parts->redraw = redraw;
     parts->drawer = std::make_unique<BatchDrawer>(pictures);
     parts->painter = std::move(painter);
@@ -95,7 +99,7 @@ Renderer::Effort Renderer::lastEffort() const {
 }
 
 void Renderer::Parts::planShadows(QOpenGLExtraFunctions& gl, const Damage& damage) {
-    const int size = ShadowMap::sizeFor(gl, tracked.frame().spot);
+    const int size = ShadowMap::sizeFor(tracked.frame().spot);
     shadows.resize(gl, size);
     regions.clear();
     if (damage.shadowMap) {

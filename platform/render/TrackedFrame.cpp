@@ -42,7 +42,11 @@ const Damage& TrackedFrame::follow(const Frame& next, int width, int height) {
     damage_.moved.clear();
     const bool itemsDiffer = followItems(next.items);
     const bool viewDiffers = followView(next, width, height);
-    if ((itemsDiffer || !known_ || next.spot != frame_.spot) && followLight(next)) {
+    std::optional<SpotLight> spot = next.spot;
+    if (spot) {
+        spot->shadowMapSize = std::clamp(spot->shadowMapSize, 1, largestShadowMap_);
+    }
+    if ((itemsDiffer || !known_ || spot != frame_.spot) && followLight(spot, next.items)) {
         damage_.shadowMap = true;
     }
     damage_.picture = damage_.picture || damage_.shadowMap || viewDiffers || next.ambient != frame_.ambient;
@@ -111,13 +115,13 @@ void TrackedFrame::restructure(const std::vector<DrawItem>& next) {
 }
 
 // Whether the light, or the depth of what it shines on, has changed.
-bool TrackedFrame::followLight(const Frame& next) {
-    const ShadowFrustum frustum = next.spot ? shadowFrustum(*next.spot, next.items) : ShadowFrustum{};
-    const bool same = known_ && next.spot == frame_.spot && frustum == frustum_;
-    frame_.spot = next.spot;
+bool TrackedFrame::followLight(const std::optional<SpotLight>& spot, const std::vector<DrawItem>& items) {
+    const ShadowFrustum frustum = spot ? shadowFrustum(*spot, items) : ShadowFrustum{};
+    const bool same = known_ && spot == frame_.spot && frustum == frustum_;
+    frame_.spot = spot;
     frustum_ = frustum;
-    if (next.spot) {
-        const int size = next.spot->shadowMapSize;
+    if (spot) {
+        const int size = spot->shadowMapSize;
         light_ = {frustum.view, glm::vec2(frustum.halfWidth), size, size, frustum.zNear};
     }
     return !same;

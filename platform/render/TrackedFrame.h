@@ -33,6 +33,10 @@ struct Damage {
 
 class TrackedFrame {
 public:
+    // Shadow maps that the scene wants larger are kept at that many texels along an edge, which is at
+    // least 1.
+    explicit TrackedFrame(int largestShadowMap) : largestShadowMap_(largestShadowMap) {}
+
     // Takes the place of the last frame, to be drawn in width × height pixels; tells what that changes. No
     // memory is allocated while the same items move.
     const Damage& follow(const Frame& next, int width, int height);
@@ -50,13 +54,14 @@ public:
 private:
     bool followItems(const std::vector<DrawItem>& next);
     void restructure(const std::vector<DrawItem>& next);
-    bool followLight(const Frame& next);
+    bool followLight(const std::optional<SpotLight>& spot, const std::vector<DrawItem>& items);
     bool followView(const Frame& next, int width, int height);
     void replace(std::size_t index, const DrawItem& next);
     void measureAll();
     [[nodiscard]] ItemBounds measure(const DrawItem& item) const;
     void mark(const ItemBounds& bounds);
 
+    int largestShadowMap_;
     bool known_ = false;
     Frame frame_;
     std::vector<ItemBounds> bounds_;

@@ -58,7 +58,7 @@ TEST(Allocation, CopyingAMovingSceneTakesNoMemory) {
 
 TEST(Allocation, FollowingAMovingSceneTakesNoMemoryAfterTheFirstMovement) {
     Stand stand;
-    TrackedFrame tracked;
+    TrackedFrame tracked(8192);
     Frame frame = makeFrame(stand.scene, 1);
     tracked.follow(frame, 600, 400);
     stand.roll(0.02);

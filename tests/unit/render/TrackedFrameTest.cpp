@@ -27,11 +27,24 @@ protected:
 
     std::array<char, 4> nodes{}; // stand for nodes: only their addresses count
     Frame frame;
-    TrackedFrame tracked;
+    TrackedFrame tracked{8192};
 };
 
 TEST_F(TrackedFrameTest, TheFirstFrameIsAllNew) {
-    EXPECT_TRUE(TrackedFrame().follow(frame, width, height).picture);
+    EXPECT_TRUE(TrackedFrame(8192).follow(frame, width, height).picture);
+}
+
+TEST_F(TrackedFrameTest, ShadowMapIsNoLargerThanTheDriverAllows) {
+    TrackedFrame small(256);
+    small.follow(frame, width, height);
+    frame.items[1] = ballAt(1, -3);
+    const Damage& damage = small.follow(frame, width, height);
+    EXPECT_EQ(small.frame().spot->shadowMapSize, 256);
+    ASSERT_EQ(damage.lit.size(), 2U);
+    const PixelRect wholeMap{0, 0, 256, 256};
+    EXPECT_TRUE(wholeMap.contains(damage.lit[0]));
+    EXPECT_TRUE(wholeMap.contains(damage.lit[1]));
+    EXPECT_TRUE(small.follow(frame, width, height).nothing());
 }
 
 TEST_F(TrackedFrameTest, ForgottenFrameIsAllNew) {
