@@ -5,6 +5,9 @@
 
 namespace vorbel::shaders {
 
+// In front of every shader: the uniform block that many of them share.
+extern const std::string_view viewBlock;
+
 // Surfaces. Fragment switches: PICTURE (else one colour), UNLIT, MIRROR (image in the floor), FLOOR, DEPTH
 // (no colour).
 extern const std::string_view surfaceVertex;
