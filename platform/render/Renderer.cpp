@@ -53,6 +53,7 @@ struct Renderer::Parts {
     std::vector<ShadowRegion> shadowRegions;
     Effort effort;
 
+    void followItems(const Damage& damage);
     void planShadows(QOpenGLExtraFunctions& gl, const Damage& damage);
     void planPicture(const Damage& damage);
     void beginDrawer(QOpenGLExtraFunctions& gl);
@@ -167,12 +168,16 @@ void Renderer::Parts::drawSheet(QOpenGLExtraFunctions& gl, std::size_t first, st
     layer->put(gl, std::span(pieces).subspan(first, end - first), sheet.resolve(gl, used));
 }
 
-void Renderer::Parts::redrawChanges(QOpenGLExtraFunctions& gl, const Damage& damage) {
+// The list must follow every frame, also one in which nothing that is seen has changed.
+void Renderer::Parts::followItems(const Damage& damage) {
     if (damage.looks || damage.picture) {
         list = makeDrawList(tracked.frame());
     } else {
         updateInstances(list, tracked.frame(), damage.moved);
     }
+}
+
+void Renderer::Parts::redrawChanges(QOpenGLExtraFunctions& gl, const Damage& damage) {
     plan.begin(list, tracked.bounds());
     planShadows(gl, damage);
     planPicture(damage);
@@ -240,6 +245,7 @@ void Renderer::draw(const Frame& frame, unsigned targetFramebuffer, int width, i
     }
     parts.effort = {};
     const Damage& damage = parts.tracked.follow(frame, width, height);
+    parts.followItems(damage);
     if (!damage.nothing() && parts.sheet.resize(gl, width, std::min(height, sheetHeight))) {
         parts.redrawChanges(gl, damage);
     }
