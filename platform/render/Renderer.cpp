@@ -246,8 +246,11 @@ void Renderer::draw(const Frame& frame, unsigned targetFramebuffer, int width, i
     parts.effort = {};
     const Damage& damage = parts.tracked.follow(frame, width, height);
     parts.followItems(damage);
-    if (!damage.nothing() && parts.sheet.resize(gl, width, std::min(height, sheetHeight))) {
+    if (damage.nothing()) {
+        parts.tracked.markDrawn();
+    } else if (parts.sheet.resize(gl, width, std::min(height, sheetHeight))) {
         parts.redrawChanges(gl, damage);
+        parts.tracked.markDrawn();
     }
     gl.glDisable(GL_DEPTH_TEST);
     gl.glDisable(GL_SCISSOR_TEST);

@@ -46,7 +46,7 @@ const Damage& TrackedFrame::follow(const Frame& next, int width, int height) {
     if (spot) {
         spot->shadowMapSize = std::clamp(spot->shadowMapSize, 1, largestShadowMap_);
     }
-    if ((itemsDiffer || !known_ || spot != frame_.spot) && followLight(spot, next.items)) {
+    if ((itemsDiffer || !drawn_ || spot != frame_.spot) && followLight(spot, next.items)) {
         damage_.shadowMap = true;
     }
     damage_.picture = damage_.picture || damage_.shadowMap || viewDiffers || next.ambient != frame_.ambient;
@@ -54,7 +54,7 @@ const Damage& TrackedFrame::follow(const Frame& next, int width, int height) {
     if (damage_.picture) {
         measureAll();
     }
-    known_ = true;
+    drawn_ = false;
     return damage_;
 }
 
@@ -117,7 +117,7 @@ void TrackedFrame::restructure(const std::vector<DrawItem>& next) {
 // Whether the light, or the depth of what it shines on, has changed.
 bool TrackedFrame::followLight(const std::optional<SpotLight>& spot, const std::vector<DrawItem>& items) {
     const ShadowFrustum frustum = spot ? shadowFrustum(*spot, items) : ShadowFrustum{};
-    const bool same = known_ && spot == frame_.spot && frustum == frustum_;
+    const bool same = drawn_ && spot == frame_.spot && frustum == frustum_;
     frame_.spot = spot;
     frustum_ = frustum;
     if (spot) {
@@ -128,7 +128,7 @@ bool TrackedFrame::followLight(const std::optional<SpotLight>& spot, const std::
 }
 
 bool TrackedFrame::followView(const Frame& next, int width, int height) {
-    const bool same = known_ && next.camera == frame_.camera && next.background == frame_.background &&
+    const bool same = drawn_ && next.camera == frame_.camera && next.background == frame_.background &&
                       width == view_.width && height == view_.height;
     frame_.camera = next.camera;
     frame_.background = next.background;
@@ -227,10 +227,6 @@ bool TrackedFrame::hidesFloor(const PixelRect& part) const {
         }
     }
     return false;
-}
-
-void TrackedFrame::forget() {
-    known_ = false;
 }
 
 } // namespace vorbel

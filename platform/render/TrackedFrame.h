@@ -33,12 +33,11 @@ struct Damage {
 
 class TrackedFrame {
 public:
-    // Shadow maps that the scene wants larger are kept at that many texels along an edge, which is at
-    // least 1.
+    // Shadow maps that the scene wants larger are kept at that many texels along an edge, at least 1.
     explicit TrackedFrame(int largestShadowMap) : largestShadowMap_(largestShadowMap) {}
 
-    // Takes the place of the last frame, to be drawn in width × height pixels; tells what that changes. No
-    // memory is allocated while the same items move.
+    // Takes the place of the last frame, to be drawn in width × height pixels; tells what that changes, which
+    // is everything unless the last frame was drawn. No memory is allocated while the same items move.
     const Damage& follow(const Frame& next, int width, int height);
 
     [[nodiscard]] const Frame& frame() const { return frame_; }
@@ -49,7 +48,8 @@ public:
     // Whether an opaque box lies between the camera and the floor all over that part of the picture.
     [[nodiscard]] bool hidesFloor(const PixelRect& part) const;
 
-    void forget(); // makes the next frame all new
+    void markDrawn() { drawn_ = true; }
+    void forget() { drawn_ = false; } // makes the next frame all new
 
 private:
     bool followItems(const std::vector<DrawItem>& next);
@@ -62,7 +62,7 @@ private:
     void mark(const ItemBounds& bounds);
 
     int largestShadowMap_;
-    bool known_ = false;
+    bool drawn_ = false; // the picture shows the frame
     Frame frame_;
     std::vector<ItemBounds> bounds_;
     ShadowFrustum frustum_;
