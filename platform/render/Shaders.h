@@ -8,8 +8,8 @@ namespace vorbel::shaders {
 // In front of every shader: the uniform block that many of them share.
 extern const std::string_view viewBlock;
 
-// Surfaces. Fragment switches: PICTURE (else one colour), UNLIT, MIRROR (image in the floor), FLOOR, DEPTH
-// (no colour).
+// Surfaces. Switches: PICTURE (else one colour), UNLIT, MIRROR (image in the floor), FLOOR, DEPTH
+// (no colour is written).
 extern const std::string_view surfaceVertex;
 extern const std::string_view surfaceFragment;
 

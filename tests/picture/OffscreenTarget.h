@@ -13,8 +13,7 @@
 
 namespace vorbel {
 
-// Current from the start, with OpenGL 3.3 unless the default format asks for OpenGL ES. Needs a
-// QGuiApplication.
+// Current from the start, with the renderer's kind of OpenGL. There must be a QGuiApplication.
 class OffscreenTarget {
 public:
     OffscreenTarget(int width, int height) {
