@@ -1,5 +1,7 @@
 #include "app/window/Display.h"
 
+#include "platform/render/OpenGlFormat.h"
+
 #include <QOpenGLContext>
 #include <QQuickGraphicsConfiguration>
 #include <QQuickWindow>
@@ -45,16 +47,9 @@ void endWhenStartFails(QtMsgType type, const QMessageLogContext&, const QString&
 
 // The arena is drawn into pictures of its own and the rest from back to front, so the window needs no depth.
 QSurfaceFormat wantedFormat() {
-    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    QSurfaceFormat format = openGlFormat();
     format.setDepthBufferSize(0);
     format.setStencilBufferSize(0);
-    if (QOpenGLContext::openGLModuleType() == QOpenGLContext::LibGLES) {
-        format.setRenderableType(QSurfaceFormat::OpenGLES);
-        format.setVersion(3, 0);
-    } else {
-        format.setVersion(3, 3);
-        format.setProfile(QSurfaceFormat::CoreProfile);
-    }
     return format;
 }
 

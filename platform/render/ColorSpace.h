@@ -1,4 +1,4 @@
-// From the screen's encoding of colours to amounts of light.
+// Between the screen's encoding of colours and amounts of light.
 #pragma once
 
 #include "platform/scenegraph/Color.h"

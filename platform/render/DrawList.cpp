@@ -60,8 +60,8 @@ DrawList makeDrawList(const Frame& frame) {
     for (std::size_t i = 0; i < frame.items.size(); ++i) {
         const DrawItem& item = frame.items[i];
         list.instances.push_back(instanceFor(item, item.world));
-        if (!std::holds_alternative<Floor>(item.shape)) {
-            (item.opacity * item.material.diffuse.alpha < 1 ? blended : opaque).push_back(i);
+        if (!isFloor(item)) {
+            (isSeeThrough(item) ? blended : opaque).push_back(i);
         }
     }
     const auto distance = [&](std::size_t i) {

@@ -24,6 +24,15 @@ struct DrawItem {
     bool operator==(const DrawItem&) const = default;
 };
 
+[[nodiscard]] inline bool isFloor(const DrawItem& item) {
+    return std::holds_alternative<Floor>(item.shape);
+}
+
+// Whether what is behind the item is seen through all of it: a tint, or something that fades.
+[[nodiscard]] inline bool isSeeThrough(const DrawItem& item) {
+    return item.opacity * item.material.diffuse.alpha < 1;
+}
+
 // The one spot light that is drawn.
 struct SpotLight {
     glm::vec3 position{0};         // metres

@@ -13,8 +13,8 @@ inline QOpenGLExtraFunctions& currentGl() {
     return *QOpenGLContext::currentContext()->extraFunctions();
 }
 
-// Owns one OpenGL object; 0 stands for none. When no context is current at its end, the object went with its
-// context.
+// Owns one OpenGL object; 0 stands for none. When no context is current at its end, the object went with
+// its context.
 class GlObject {
 public:
     using Deleter = void (*)(QOpenGLExtraFunctions&, GLuint);

@@ -1,5 +1,6 @@
 #include "platform/render/Offscreen.h"
 
+#include "platform/render/OpenGlFormat.h"
 #include "platform/render/Pictures.h"
 #include "platform/render/Renderer.h"
 
@@ -11,15 +12,6 @@
 namespace vorbel {
 
 namespace {
-
-QSurfaceFormat coreProfile() {
-    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-    if (format.renderableType() != QSurfaceFormat::OpenGLES) {
-        format.setVersion(3, 3);
-        format.setProfile(QSurfaceFormat::CoreProfile);
-    }
-    return format;
-}
 
 QImage drawWith(Renderer& renderer, const Frame& frame, QSize size, std::string& error) {
     QOpenGLFramebufferObject target(size);
@@ -36,10 +28,10 @@ QImage drawWith(Renderer& renderer, const Frame& frame, QSize size, std::string&
 QImage renderToImage(const Frame& frame, int width, int height, const Resources& resources,
                      std::string& error) {
     QOffscreenSurface surface;
-    surface.setFormat(coreProfile());
+    surface.setFormat(openGlFormat());
     surface.create();
     QOpenGLContext context;
-    context.setFormat(coreProfile());
+    context.setFormat(openGlFormat());
     if (!context.create() || !context.makeCurrent(&surface)) {
         error = "OpenGL is not available.";
         return {};

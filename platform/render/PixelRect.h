@@ -1,4 +1,4 @@
-// Rectangles of pixels, and how they are gathered.
+// Rectangles of pixels.
 #pragma once
 
 #include <algorithm>

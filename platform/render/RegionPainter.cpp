@@ -35,8 +35,8 @@ void RegionPainter::fillMirror(QOpenGLExtraFunctions& gl) {
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
 }
 
-// Where no solid surface hides the floor: first its mirror image of the scene, then the floor itself added to
-// that.
+// Where no solid surface hides the floor: first its mirror image of the scene, then the floor's own light
+// is added.
 void RegionPainter::paintFloor(QOpenGLExtraFunctions& gl, const RegionBatches& batches, const BatchPlan& plan,
                                BatchDrawer& drawer) {
     const auto floor = plan.batches(batches.floor);

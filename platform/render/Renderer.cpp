@@ -36,6 +36,8 @@ constexpr long shadowOverhead = 4000;
 } // namespace
 
 struct Renderer::Parts {
+    explicit Parts(int largestTexture) : tracked(largestTexture) {}
+
     Redraw redraw = Redraw::changes;
     std::unique_ptr<BatchDrawer> drawer;
     std::unique_ptr<RegionPainter> painter;
@@ -51,6 +53,7 @@ struct Renderer::Parts {
     std::vector<ShadowRegion> shadowRegions;
     Effort effort;
 
+    void followItems(const Damage& damage);
     void planShadows(QOpenGLExtraFunctions& gl, const Damage& damage);
     void planPicture(const Damage& damage);
     void beginDrawer(QOpenGLExtraFunctions& gl);
@@ -74,7 +77,9 @@ std::unique_ptr<Renderer> Renderer::create(Pictures& pictures, std::string& erro
         error = "The graphics driver cannot draw into a multisampled picture of half floats.";
         return nullptr;
     }
-    auto parts = std::make_unique<Parts>();
+    GLint largestTexture = 1;
+    gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largestTexture);
+    auto parts = std::make_unique<Parts>(largestTexture);
     parts->redraw = redraw;
     parts->drawer = std::make_unique<BatchDrawer>(pictures);
     parts->painter = std::move(painter);
@@ -95,7 +100,7 @@ Renderer::Effort Renderer::lastEffort() const {
 }
 
 void Renderer::Parts::planShadows(QOpenGLExtraFunctions& gl, const Damage& damage) {
-    const int size = ShadowMap::sizeFor(gl, tracked.frame().spot);
+    const int size = ShadowMap::sizeFor(tracked.frame().spot);
     shadows.resize(gl, size);
     regions.clear();
     if (damage.shadowMap) {
@@ -163,12 +168,16 @@ void Renderer::Parts::drawSheet(QOpenGLExtraFunctions& gl, std::size_t first, st
     layer->put(gl, std::span(pieces).subspan(first, end - first), sheet.resolve(gl, used));
 }
 
-void Renderer::Parts::redrawChanges(QOpenGLExtraFunctions& gl, const Damage& damage) {
+// The list must follow every frame, also one in which nothing that is seen has changed.
+void Renderer::Parts::followItems(const Damage& damage) {
     if (damage.looks || damage.picture) {
         list = makeDrawList(tracked.frame());
     } else {
         updateInstances(list, tracked.frame(), damage.moved);
     }
+}
+
+void Renderer::Parts::redrawChanges(QOpenGLExtraFunctions& gl, const Damage& damage) {
     plan.begin(list, tracked.bounds());
     planShadows(gl, damage);
     planPicture(damage);
@@ -236,8 +245,12 @@ void Renderer::draw(const Frame& frame, unsigned targetFramebuffer, int width, i
     }
     parts.effort = {};
     const Damage& damage = parts.tracked.follow(frame, width, height);
-    if (!damage.nothing() && parts.sheet.resize(gl, width, std::min(height, sheetHeight))) {
+    parts.followItems(damage);
+    if (damage.nothing()) {
+        parts.tracked.markDrawn();
+    } else if (parts.sheet.resize(gl, width, std::min(height, sheetHeight))) {
         parts.redrawChanges(gl, damage);
+        parts.tracked.markDrawn();
     }
     gl.glDisable(GL_DEPTH_TEST);
     gl.glDisable(GL_SCISSOR_TEST);

@@ -1,4 +1,4 @@
-// Draws frames with OpenGL 3.3 (core profile) or OpenGL ES 3.0, from 3 passes over the scene: shadow map,
+// Draws frames with OpenGL 3.3 (core profile) or OpenGL ES 3.0 in three passes over the scene: shadow map,
 // mirror image in the arena floor, the scene itself. The finished picture is kept, and only the parts of it
 // that a new frame changes are drawn anew.
 #pragma once
@@ -12,8 +12,7 @@ namespace vorbel {
 
 class Pictures;
 
-// How much of the picture each frame draws. Both show the same; drawing all is slow and there to compare
-// with.
+// How much of the picture each frame draws. Both show the same; drawing all is slow, there to compare with.
 enum class Redraw { changes, all };
 
 class Renderer {

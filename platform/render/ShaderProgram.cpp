@@ -1,5 +1,7 @@
 #include "platform/render/ShaderProgram.h"
 
+#include "platform/render/Shaders.h"
+
 #include <array>
 #include <sstream>
 
@@ -16,7 +18,7 @@ std::string completeSource(std::string_view source, std::string_view defines) {
     for (std::string name; names >> name;) {
         text += "#define " + name + "\n";
     }
-    return text.append(source);
+    return text.append(shaders::viewBlock).append(source);
 }
 
 std::string firstLine(const char* text) {

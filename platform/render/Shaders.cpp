@@ -2,12 +2,15 @@
 
 namespace vorbel::shaders {
 
-const std::string_view surfaceVertex = R"(
+const std::string_view viewBlock = R"(
 layout(std140) uniform View {
     mat4 viewProjection;
-    vec4 background;
-    vec4 eye;
+    vec4 background; // linear light; w: reflectivity of the floor
+    vec4 eye;        // position; w: far plane, metres
 };
+)";
+
+const std::string_view surfaceVertex = R"(
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
 layout(location = 2) in vec2 uv;
@@ -40,11 +43,6 @@ void main() {
 )";
 
 const std::string_view surfaceFragment = R"(
-layout(std140) uniform View {
-    mat4 viewProjection;
-    vec4 background;  // linear light; w: reflectivity of the floor
-    vec4 eye;         // position; w: far plane, metres
-};
 layout(std140) uniform Lights {
     mat4 lightView;       // from the arena to the light, which looks along -z
     vec4 ambient;
@@ -149,11 +147,6 @@ void main() {
 )";
 
 const std::string_view fillFragment = R"(
-layout(std140) uniform View {
-    mat4 viewProjection;
-    vec4 background;
-    vec4 eye;
-};
 layout(location = 0) out vec4 color;
 void main() { color = vec4(background.rgb * background.w, 1.0); }
 )";

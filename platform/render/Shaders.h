@@ -5,8 +5,11 @@
 
 namespace vorbel::shaders {
 
-// Surfaces. Fragment switches: PICTURE (else one colour), UNLIT, MIRROR (image in the floor), FLOOR, DEPTH
-// (no colour).
+// In front of every shader: the uniform block that many of them share.
+extern const std::string_view viewBlock;
+
+// Surfaces. Switches: PICTURE (else one colour), UNLIT, MIRROR (image in the floor), FLOOR, DEPTH
+// (no colour is written).
 extern const std::string_view surfaceVertex;
 extern const std::string_view surfaceFragment;
 

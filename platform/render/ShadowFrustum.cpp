@@ -20,7 +20,7 @@ glm::mat4 ShadowFrustum::viewProjection() const {
 }
 
 bool castsShadow(const DrawItem& item) {
-    return !std::holds_alternative<Floor>(item.shape) && item.opacity * item.material.diffuse.alpha >= 1;
+    return !isFloor(item) && !isSeeThrough(item);
 }
 
 ShadowFrustum shadowFrustum(const SpotLight& spot, const std::vector<DrawItem>& items) {

@@ -1,16 +1,9 @@
 #include "platform/render/ShadowMap.h"
 
-#include <algorithm>
-
 namespace vorbel {
 
-int ShadowMap::sizeFor(QOpenGLExtraFunctions& gl, const std::optional<SpotLight>& spot) {
-    if (!spot || !spot->castsShadow) {
-        return 1;
-    }
-    GLint largest = 0;
-    gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
-    return std::clamp(spot->shadowMapSize, 1, largest);
+int ShadowMap::sizeFor(const std::optional<SpotLight>& spot) {
+    return spot && spot->castsShadow ? spot->shadowMapSize : 1;
 }
 
 void ShadowMap::resize(QOpenGLExtraFunctions& gl, int size) {

@@ -17,7 +17,7 @@ struct ShadowRegion {
 class ShadowMap {
 public:
     // How many texels the map has along an edge for that light: one without a spot light that casts shadows.
-    [[nodiscard]] static int sizeFor(QOpenGLExtraFunctions& gl, const std::optional<SpotLight>& spot);
+    [[nodiscard]] static int sizeFor(const std::optional<SpotLight>& spot);
 
     // Makes the map that large; its content is lost when it had another size.
     void resize(QOpenGLExtraFunctions& gl, int size);

@@ -17,10 +17,6 @@ bool looksTheSame(const DrawItem& a, const DrawItem& b) {
     return a.opacity == b.opacity && a.shape == b.shape && a.material == b.material;
 }
 
-bool isSeeThrough(const DrawItem& item) {
-    return item.opacity * item.material.diffuse.alpha < 1;
-}
-
 bool mayHide(const DrawItem& item, const ItemBounds& bounds) {
     const auto* box = std::get_if<Box>(&item.shape);
     return box != nullptr && box->chamferRadius == 0 && !isSeeThrough(item) &&
@@ -30,8 +26,7 @@ bool mayHide(const DrawItem& item, const ItemBounds& bounds) {
 } // namespace
 
 const DrawItem* floorOf(const Frame& frame) {
-    const auto floor = std::ranges::find_if(
-        frame.items, [](const DrawItem& item) { return std::holds_alternative<Floor>(item.shape); });
+    const auto floor = std::ranges::find_if(frame.items, isFloor);
     return floor == frame.items.end() ? nullptr : &*floor;
 }
 
@@ -47,7 +42,11 @@ const Damage& TrackedFrame::follow(const Frame& next, int width, int height) {
     damage_.moved.clear();
     const bool itemsDiffer = followItems(next.items);
     const bool viewDiffers = followView(next, width, height);
-    if ((itemsDiffer || !known_ || next.spot != frame_.spot) && followLight(next)) {
+    std::optional<SpotLight> spot = next.spot;
+    if (spot) {
+        spot->shadowMapSize = std::clamp(spot->shadowMapSize, 1, largestShadowMap_);
+    }
+    if ((itemsDiffer || !drawn_ || spot != frame_.spot) && followLight(spot, next.items)) {
         damage_.shadowMap = true;
     }
     damage_.picture = damage_.picture || damage_.shadowMap || viewDiffers || next.ambient != frame_.ambient;
@@ -55,7 +54,7 @@ const Damage& TrackedFrame::follow(const Frame& next, int width, int height) {
     if (damage_.picture) {
         measureAll();
     }
-    known_ = true;
+    drawn_ = false;
     return damage_;
 }
 
@@ -76,7 +75,7 @@ bool TrackedFrame::followItems(const std::vector<DrawItem>& next) {
 void TrackedFrame::replace(std::size_t index, const DrawItem& next) {
     DrawItem& item = frame_.items[index];
     damage_.looks = damage_.looks || !looksTheSame(item, next) || isSeeThrough(next);
-    damage_.picture = damage_.picture || std::holds_alternative<Floor>(next.shape);
+    damage_.picture = damage_.picture || isFloor(next);
     damage_.moved.push_back(index);
     mark(bounds_[index]);
     item = next;
@@ -102,35 +101,34 @@ void TrackedFrame::restructure(const std::vector<DrawItem>& next) {
             bounds.push_back(bounds_[place->second]);
             from = place->second + 1;
         } else {
-            damage_.picture = damage_.picture || std::holds_alternative<Floor>(item.shape);
+            damage_.picture = damage_.picture || isFloor(item);
             bounds.push_back(measure(item));
             mark(bounds.back());
         }
     }
     std::for_each(bounds_.begin() + static_cast<std::ptrdiff_t>(from), bounds_.end(),
                   [this](const ItemBounds& gone) { mark(gone); });
-    const std::ptrdiff_t floors = std::ranges::count_if(
-        frame_.items, [](const DrawItem& item) { return std::holds_alternative<Floor>(item.shape); });
+    const std::ptrdiff_t floors = std::ranges::count_if(frame_.items, isFloor);
     frame_.items = next;
     bounds_ = std::move(bounds);
     damage_.picture = damage_.picture || floors != (floorOf(frame_) != nullptr ? 1 : 0);
 }
 
 // Whether the light, or the depth of what it shines on, has changed.
-bool TrackedFrame::followLight(const Frame& next) {
-    const ShadowFrustum frustum = next.spot ? shadowFrustum(*next.spot, next.items) : ShadowFrustum{};
-    const bool same = known_ && next.spot == frame_.spot && frustum == frustum_;
-    frame_.spot = next.spot;
+bool TrackedFrame::followLight(const std::optional<SpotLight>& spot, const std::vector<DrawItem>& items) {
+    const ShadowFrustum frustum = spot ? shadowFrustum(*spot, items) : ShadowFrustum{};
+    const bool same = drawn_ && spot == frame_.spot && frustum == frustum_;
+    frame_.spot = spot;
     frustum_ = frustum;
-    if (next.spot) {
-        const int size = next.spot->shadowMapSize;
+    if (spot) {
+        const int size = spot->shadowMapSize;
         light_ = {frustum.view, glm::vec2(frustum.halfWidth), size, size, frustum.zNear};
     }
     return !same;
 }
 
 bool TrackedFrame::followView(const Frame& next, int width, int height) {
-    const bool same = known_ && next.camera == frame_.camera && next.background == frame_.background &&
+    const bool same = drawn_ && next.camera == frame_.camera && next.background == frame_.background &&
                       width == view_.width && height == view_.height;
     frame_.camera = next.camera;
     frame_.background = next.background;
@@ -149,7 +147,7 @@ void TrackedFrame::measureAll() {
 
 ItemBounds TrackedFrame::measure(const DrawItem& item) const {
     ItemBounds bounds;
-    if (std::holds_alternative<Floor>(item.shape)) {
+    if (isFloor(item)) {
         bounds.seen = {0, 0, view_.width, view_.height};
         return bounds;
     }
@@ -229,10 +227,6 @@ bool TrackedFrame::hidesFloor(const PixelRect& part) const {
         }
     }
     return false;
-}
-
-void TrackedFrame::forget() {
-    known_ = false;
 }
 
 } // namespace vorbel

@@ -33,8 +33,11 @@ struct Damage {
 
 class TrackedFrame {
 public:
-    // Takes the place of the last frame, to be drawn in width × height pixels; tells what that changes. No
-    // memory is allocated while the same items move.
+    // Shadow maps that the scene wants larger are kept at that many texels along an edge, at least 1.
+    explicit TrackedFrame(int largestShadowMap) : largestShadowMap_(largestShadowMap) {}
+
+    // Takes the place of the last frame, to be drawn in width × height pixels; tells what that changes, which
+    // is everything unless the last frame was drawn. No memory is allocated while the same items move.
     const Damage& follow(const Frame& next, int width, int height);
 
     [[nodiscard]] const Frame& frame() const { return frame_; }
@@ -45,19 +48,21 @@ public:
     // Whether an opaque box lies between the camera and the floor all over that part of the picture.
     [[nodiscard]] bool hidesFloor(const PixelRect& part) const;
 
-    void forget(); // makes the next frame all new
+    void markDrawn() { drawn_ = true; }
+    void forget() { drawn_ = false; } // makes the next frame all new
 
 private:
     bool followItems(const std::vector<DrawItem>& next);
     void restructure(const std::vector<DrawItem>& next);
-    bool followLight(const Frame& next);
+    bool followLight(const std::optional<SpotLight>& spot, const std::vector<DrawItem>& items);
     bool followView(const Frame& next, int width, int height);
     void replace(std::size_t index, const DrawItem& next);
     void measureAll();
     [[nodiscard]] ItemBounds measure(const DrawItem& item) const;
     void mark(const ItemBounds& bounds);
 
-    bool known_ = false;
+    int largestShadowMap_;
+    bool drawn_ = false; // the picture shows the frame
     Frame frame_;
     std::vector<ItemBounds> bounds_;
     ShadowFrustum frustum_;

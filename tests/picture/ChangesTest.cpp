@@ -132,6 +132,16 @@ TEST_F(ChangesTest, JackIsPutBackOnTheCross) {
     expectSame(arena.frame(1), "re-spotted");
 }
 
+TEST_F(ChangesTest, BallThatCameUnseenIsShownWhenItRollsIntoView) {
+    expectSame(arena.frame(1), "before");
+    const Node::Ptr ball = makeBall(BallColor::red, {0, restingHeight, 20}, PhysicsBody::Type::fixed);
+    arena.scene.root->addChild(ball);
+    expectSame(arena.frame(1), "behind the camera");
+    EXPECT_EQ(drawnPixels(), 0);
+    ball->setPosition({0.4, restingHeight, -1});
+    expectSame(arena.frame(1), "in view");
+}
+
 TEST_F(ChangesTest, PointerTurnsAndFades) {
     const Node::Ptr pointer = arena.scene.root->findChild("pointer");
     ASSERT_TRUE(pointer);

@@ -1,6 +1,8 @@
 // An OpenGL context with a framebuffer, without a window.
 #pragma once
 
+#include "platform/render/OpenGlFormat.h"
+
 #include <QImage>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
@@ -11,16 +13,11 @@
 
 namespace vorbel {
 
-// Current from the start, with OpenGL 3.3 unless the default format asks for OpenGL ES. Needs a
-// QGuiApplication.
+// Current from the start, with the renderer's kind of OpenGL. There must be a QGuiApplication.
 class OffscreenTarget {
 public:
     OffscreenTarget(int width, int height) {
-        QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-        if (format.renderableType() != QSurfaceFormat::OpenGLES) {
-            format.setVersion(3, 3);
-            format.setProfile(QSurfaceFormat::CoreProfile);
-        }
+        const QSurfaceFormat format = openGlFormat();
         surface_.setFormat(format);
         surface_.create();
         context_.setFormat(format);

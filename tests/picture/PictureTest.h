@@ -27,7 +27,7 @@ protected:
     // Adds the light of the arena: a spot 12 m above the origin with shadows, and ambient light.
     Node::Ptr addLights();
 
-    // A picture of a single colour's worth of pixels, as PNG under that name.
+    // Saves a PNG under that name, for materials to show.
     void savePicture(const QImage& image, const std::string& name);
 
     // Fails the test when there is no OpenGL.

@@ -16,27 +16,54 @@ protected:
         frame.camera.world = glm::translate(glm::mat4(1), {0, 1, 0});
         frame.spot = SpotLight{.position = {0, 12, -6}, .castsShadow = true, .shadowMapSize = 1024};
         frame.items = {{nodes.data(), Floor{0.05}, {}, glm::mat4(1), 1}, ballAt(1, -4), ballAt(2, -8)};
-        tracked.follow(frame, width, height);
+        follow();
     }
 
     [[nodiscard]] DrawItem ballAt(std::size_t node, float z) const {
         const glm::mat4 place = glm::translate(glm::mat4(1), {0, 0.1F, z});
         return {&nodes[node], Sphere{1}, {}, glm::scale(place, glm::vec3(0.1F)), 1};
     }
-    const Damage& follow() { return tracked.follow(frame, width, height); }
+    const Damage& follow() { return followAndDraw(width); }
+    const Damage& followAndDraw(int pictureWidth) {
+        const Damage& damage = tracked.follow(frame, pictureWidth, height);
+        tracked.markDrawn();
+        return damage;
+    }
 
     std::array<char, 4> nodes{}; // stand for nodes: only their addresses count
     Frame frame;
-    TrackedFrame tracked;
+    TrackedFrame tracked{8192};
 };
 
 TEST_F(TrackedFrameTest, TheFirstFrameIsAllNew) {
-    EXPECT_TRUE(TrackedFrame().follow(frame, width, height).picture);
+    EXPECT_TRUE(TrackedFrame(8192).follow(frame, width, height).picture);
+}
+
+TEST_F(TrackedFrameTest, ShadowMapIsNoLargerThanTheDriverAllows) {
+    TrackedFrame small(256);
+    small.follow(frame, width, height);
+    small.markDrawn();
+    frame.items[1] = ballAt(1, -3);
+    const Damage& damage = small.follow(frame, width, height);
+    EXPECT_EQ(small.frame().spot->shadowMapSize, 256);
+    ASSERT_EQ(damage.lit.size(), 2U);
+    const PixelRect wholeMap{0, 0, 256, 256};
+    EXPECT_TRUE(wholeMap.contains(damage.lit[0]));
+    EXPECT_TRUE(wholeMap.contains(damage.lit[1]));
+    small.markDrawn();
+    EXPECT_TRUE(small.follow(frame, width, height).nothing());
 }
 
 TEST_F(TrackedFrameTest, ForgottenFrameIsAllNew) {
     tracked.forget();
     EXPECT_TRUE(follow().picture);
+}
+
+TEST_F(TrackedFrameTest, ChangesThatWereNotDrawnAreNotForgotten) {
+    frame.items[1] = ballAt(1, -3);
+    tracked.follow(frame, width, height);
+    EXPECT_TRUE(follow().picture);
+    EXPECT_TRUE(follow().nothing());
 }
 
 TEST_F(TrackedFrameTest, TheSameFrameChangesNothing) {
@@ -86,7 +113,7 @@ TEST_F(TrackedFrameTest, AnotherColourIsAChangeOfLooks) {
 }
 
 TEST_F(TrackedFrameTest, SizeCameraLightAndFloorConcernTheWholePicture) {
-    EXPECT_TRUE(tracked.follow(frame, width + 1, height).picture);
+    EXPECT_TRUE(followAndDraw(width + 1).picture);
     frame.camera.world = glm::translate(glm::mat4(1), {0, 2, 0});
     EXPECT_TRUE(follow().picture);
     frame.ambient = {0.1F, 0.1F, 0.1F};
