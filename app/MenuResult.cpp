@@ -39,7 +39,8 @@ MenuResult::Contents MenuResult::currentContents() const {
         .title = text("menu.matchResult", language),
         .winner = QString::fromStdString(match.matchWinnerTitle()),
         .scoreLabel = text("label.score", language),
-        .buttonLabel = text(leadsToNextRound(match) ? "menu.nextRound" : "menu.mainMenu", language),
+        .buttonLabel =
+            leadsToNextRound(match) ? text("menu.nextRound", language) : text("menu.mainMenu", language),
         .redName = text("team.red", language),
         .blueName = text("team.blue", language),
         .ends = {},
