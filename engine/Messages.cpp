@@ -89,10 +89,7 @@ std::string endResult(AppLanguage language, const EndResult& result) {
     const std::string red = std::to_string(result.red);
     const std::string blue = std::to_string(result.blue);
     if (result.red > 0 && result.blue > 0) {
-        return language == AppLanguage::ru
-                   ? L10n::fill("Равноудалённые мячи! Красные +%@, Синие +%@.", {red, blue})
-                   : L10n::fill("%@ +%@, %@ +%@",
-                                {team(language, BallColor::red), red, team(language, BallColor::blue), blue});
+        return L10n::fill(L10n::t("end.equidistant.format", language), {red, blue});
     }
     if (result.red == 0 && result.blue == 0) {
         return say(language, {"Ничья в энде!", {}}, "msg.endDraw");
