@@ -35,11 +35,11 @@ bool GameLogic::isCurrentTurnAI() const {
     return currentTurn == BallColor::red ? redIsAI : blueIsAI;
 }
 
-std::string GameLogic::t(std::string_view key) const {
+std::string GameLogic::t(TextKey key) const {
     return std::string(L10n::t(key, language));
 }
 
-std::string GameLogic::t(std::string_view key, std::initializer_list<std::string_view> arguments) const {
+std::string GameLogic::t(TextKey key, std::initializer_list<std::string_view> arguments) const {
     return L10n::fill(L10n::t(key, language), arguments);
 }
 

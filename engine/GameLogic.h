@@ -75,9 +75,8 @@ public:
     // --- engine/GameLogic.cpp
 
     [[nodiscard]] bool isCurrentTurnAI() const;
-    [[nodiscard]] std::string t(std::string_view key) const;
-    [[nodiscard]] std::string t(std::string_view key,
-                                std::initializer_list<std::string_view> arguments) const;
+    [[nodiscard]] std::string t(TextKey key) const;
+    [[nodiscard]] std::string t(TextKey key, std::initializer_list<std::string_view> arguments) const;
 
     // --- engine/Aiming.cpp: the human thrower's side of a throw
 

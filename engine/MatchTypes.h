@@ -1,6 +1,7 @@
 // The vocabulary of a match.
 #pragma once
 
+#include "l10n/TextKey.h"
 #include "platform/scenegraph/Vector.h"
 
 #include <array>
@@ -26,9 +27,9 @@ inline constexpr std::array allDifficulties{AIDifficulty::easy, AIDifficulty::me
                                             AIDifficulty::ultra};
 
 // Key of the level's name in the string table.
-[[nodiscard]] constexpr std::string_view key(AIDifficulty difficulty) {
-    constexpr std::array<std::string_view, 4> keys{"difficulty.easy", "difficulty.medium", "difficulty.hard",
-                                                   "difficulty.ultra"};
+[[nodiscard]] constexpr TextKey key(AIDifficulty difficulty) {
+    constexpr std::array<TextKey, 4> keys{"difficulty.easy", "difficulty.medium", "difficulty.hard",
+                                          "difficulty.ultra"};
     return keys[static_cast<std::size_t>(difficulty)];
 }
 

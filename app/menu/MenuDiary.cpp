@@ -32,7 +32,7 @@ const DiaryDateFormatter& diaryDateFormatter() {
 
 QString resultText(const DiaryEntry& entry, AppLanguage language) {
     return text("diary.entry.format", language,
-                {L10n::t(entry.resultKey, language), std::to_string(entry.xpGained)});
+                {L10n::tNamed(entry.resultKey, language), std::to_string(entry.xpGained)});
 }
 
 } // namespace

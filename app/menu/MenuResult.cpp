@@ -40,7 +40,8 @@ MenuResult::Contents MenuResult::currentContents() const {
         .title = text("menu.matchResult", language),
         .winner = QString::fromStdString(match_.matchWinnerTitle()),
         .scoreLabel = text("label.score", language),
-        .buttonLabel = text(leadsToNextRound(match_) ? "menu.nextRound" : "menu.mainMenu", language),
+        .buttonLabel =
+            leadsToNextRound(match_) ? text("menu.nextRound", language) : text("menu.mainMenu", language),
         .redName = text("team.red", language),
         .blueName = text("team.blue", language),
         .ends = {},

@@ -57,7 +57,7 @@ signals:
 
 private:
     // Qt lays a text out in the direction of its first letter: an Arabic one may begin with a Latin name.
-    [[nodiscard]] QString t(std::string_view key) const {
+    [[nodiscard]] QString t(TextKey key) const {
         const QString words = text(key, language_);
         const bool needsMark = isRightToLeft(language_) && !words.isRightToLeft();
         return needsMark ? QChar(0x200F) + words : words;

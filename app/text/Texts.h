@@ -7,12 +7,12 @@
 
 namespace vorbel {
 
-[[nodiscard]] inline QString text(std::string_view key, AppLanguage language) {
+[[nodiscard]] inline QString text(TextKey key, AppLanguage language) {
     return QString::fromUtf8(L10n::t(key, language));
 }
 
 // The same for a key whose text holds placeholders.
-[[nodiscard]] inline QString text(std::string_view key, AppLanguage language,
+[[nodiscard]] inline QString text(TextKey key, AppLanguage language,
                                   std::initializer_list<std::string_view> arguments) {
     return QString::fromStdString(L10n::fill(L10n::t(key, language), arguments));
 }
