@@ -39,8 +39,8 @@ public:
     Published& operator+=(const T& difference) { return *this = value_ + difference; }
     Published& operator-=(const T& difference) { return *this = value_ - difference; }
 
-    // Calls the observer before every change for as long as the subscription lives. The value must outlive
-    // it.
+    // Calls the observer before every change for as long as
+    // the subscription lives. The value must outlive it.
     [[nodiscard]] Subscription onWillChange(Observer observer) {
         observers_.push_back(std::make_shared<Observer>(std::move(observer)));
         return Subscription([this, added = std::weak_ptr<Observer>(observers_.back())] {

@@ -17,8 +17,8 @@ public:
     // What the screen shows now where a window of the smallest size lies: in its upper left corner.
     [[nodiscard]] QImage picture() const;
 
-    // Presses and releases a key, named as X names it ("space", "Left", "Tab"), in the window that has the
-    // focus.
+    // Presses and releases a key, named as X names it ("space",
+    // "Left", "Tab"), in the window that has the focus.
     void press(const QString& key) const;
 
     // Waits for the game's window and gives it the keyboard. False when none appears within ten seconds.
