@@ -34,8 +34,8 @@ public:
     Published& operator+=(const T& difference) { return *this = value_ + difference; }
     Published& operator-=(const T& difference) { return *this = value_ - difference; }
 
-    // Calls the observer before every change for as long as the subscription lives. The value must outlive
-    // it.
+    // Calls the observer before every change for as long as
+    // the subscription lives. The value must outlive it.
     [[nodiscard]] Subscription onWillChange(Observer observer) const {
         return observers_.add(std::move(observer));
     }

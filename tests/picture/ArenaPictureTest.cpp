@@ -46,8 +46,8 @@ Difference compare(const QImage& actual, const QImage& wanted) {
     return difference;
 }
 
-// Compares with the stored picture of that name; when they differ, leaves the picture and the difference in
-// a folder and says where.
+// Compares with the stored picture of that name; leaves the
+// picture and the difference in a folder when they differ.
 void expectLooksLike(const QImage& actual, const std::string& name) {
     const fs::path reference = fs::path(VORBEL_REFERENCE_PICTURES) / (name + ".png");
     if (std::getenv("VORBEL_UPDATE_PICTURES") != nullptr) {

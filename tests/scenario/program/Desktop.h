@@ -29,8 +29,8 @@ public:
     // What the screen shows now where a window of the smallest size lies: in its upper left corner.
     [[nodiscard]] QImage picture() const;
 
-    // Presses and releases a key in the window that has the focus.
-    // X gives the names: "space", "Left", "Tab".
+    // Presses and releases a key, named as X names it ("space",
+    // "Left", "Tab"), in the window that has the focus.
     void press(const QString& key) const;
 
     // The same, and waits up to ten seconds until that part of the picture is another than before.
