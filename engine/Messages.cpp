@@ -2,6 +2,7 @@
 
 #include "career/Tournament.h"
 #include "l10n/L10n.h"
+#include "rules/Scoring.h"
 
 #include <initializer_list>
 #include <string_view>
@@ -113,8 +114,7 @@ std::string teamWinMatch(AppLanguage language, BallColor winner) {
 }
 
 std::string matchOver(AppLanguage language, int redScore, int blueScore) {
-    const std::string winner =
-        teamWinMatch(language, redScore > blueScore ? BallColor::red : BallColor::blue);
+    const std::string winner = teamWinMatch(language, vorbel::winner({redScore, blueScore}));
     const std::string red = std::to_string(redScore);
     const std::string blue = std::to_string(blueScore);
     return say(language, {"%@ Счет %@:%@. [ПРОБЕЛ] для новой игры", {winner, red, blue}},

@@ -1,6 +1,7 @@
 #include "app/career/Career.h"
 
 #include "career/Diary.h"
+#include "platform/random/Uuid.h"
 
 #include <chrono>
 

@@ -5,6 +5,8 @@
 #include "bench/render/Figures.h"
 #include "platform/runloop/QtMainQueue.h"
 #include "platform/store/MemoryDefaults.h"
+#include "rules/BallModel.h"
+#include "rules/CourtGeometry.h"
 #include "scene/Ball.h"
 
 #include <QCoreApplication>
@@ -87,9 +89,9 @@ private:
         for (int i = 0; i < ballCount; ++i) {
             const Node::Ptr& ball = balls_[static_cast<std::size_t>(i)];
             const int column = i - ballCount / 2;
-            ball->setPosition({0.3 * column, restingHeight, -0.5});
+            ball->setPosition({0.3 * column, court::restingHeight, -0.5});
             ball->body->velocity = {-0.04 * column, 0, -2.2 - 0.25 * ((5 * i) % ballCount)};
-            ball->body->angularVelocity = {ball->body->velocity.z / ballRadius, 0, 0};
+            ball->body->angularVelocity = {ball->body->velocity.z / ball::radius, 0, 0};
         }
     }
 

@@ -3,6 +3,7 @@
 #include "engine/GameLogic.h"
 #include "platform/random/RandomSource.h"
 #include "platform/render/Offscreen.h"
+#include "rules/CourtGeometry.h"
 #include "scene/Ball.h"
 
 #include <algorithm>
@@ -103,7 +104,8 @@ TEST(ArenaPicture, MiddleOfAnEnd) {
                                               {BallColor::red, -1.0, -0.9}}};
     Scene scene = makeArena();
     for (const Placed& ball : balls) {
-        scene.root->addChild(makeBall(ball.color, {ball.x, restingHeight, ball.z}, PhysicsBody::Type::fixed));
+        scene.root->addChild(
+            makeBall(ball.color, {ball.x, court::restingHeight, ball.z}, PhysicsBody::Type::fixed));
     }
     const Node::Ptr pointer = scene.root->findChild("pointer");
     ASSERT_TRUE(pointer);

@@ -1,4 +1,5 @@
 // What happens in the match while its window cannot be seen.
+#include "tests/MatchSetup.h"
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +12,7 @@ TEST(HiddenWindowTest, AMatchThatEndsInAHiddenWindowIsRecordedAtOnceAndItsResult
     game.layOut();
     game.window().update();
     game.window().hide(); // a picture may have been asked for that is never shown
-    GameLogic& match = game.view().gameLogic();
+    MatchState& match = MatchSetup(game.view().gameLogic()).state();
     match.redScore = 3;
     match.phase = GamePhase::gameOver;
     EXPECT_EQ(game.view().career().gamesPlayed(), 1);

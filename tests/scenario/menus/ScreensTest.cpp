@@ -1,8 +1,10 @@
 // Every screen of the menu in every language.
+#include "tests/MatchSetup.h"
 #include "tests/scenario/menus/LayoutCheck.h"
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include "career/Diary.h"
+#include "platform/random/Uuid.h"
 
 #include <QDir>
 
@@ -44,7 +46,7 @@ void fill(MenuWindow& game) {
     game.defaults().setBytes("boccia_diaryData", diaryOf(40));
     game.view().career().setRealAthlete(true);
     game.view().menu()->career()->readDiary();
-    GameLogic& match = game.view().gameLogic();
+    MatchState& match = MatchSetup(game.view().gameLogic()).state();
     match.tournamentActive = true;
     match.tournamentRound = 2;
     match.endHistory = std::vector<EndResult>{{1, 2, 0}, {2, 0, 1}, {3, 0, 3}, {4, 2, 0}, {5, 1, 0}};

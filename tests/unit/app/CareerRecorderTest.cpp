@@ -136,7 +136,7 @@ TEST_F(CareerRecorderTest, AMatchIsRecordedOnceHoweverOftenItsResultIsLookedAt) 
 TEST_F(CareerRecorderTest, MatchesOfAnotherRunningGameAreNotLost) {
     ContentView other(platform.services(), defaults);
     finishMatch(5, 2);
-    other.gameLogic().phase = GamePhase::gameOver;
+    MatchSetup(other.gameLogic()).state().phase = GamePhase::gameOver;
     letQueueRun();
     EXPECT_EQ(career.gamesPlayed(), 2);
 }

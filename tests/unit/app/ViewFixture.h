@@ -4,6 +4,7 @@
 #include "app/window/ContentView.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/store/MemoryDefaults.h"
+#include "tests/MatchSetup.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,7 @@ protected:
     MemoryDefaults defaults;
     ContentView view{platform.services(), defaults};
     GameLogic& match = view.gameLogic();
+    MatchSetup setup{match};
     PlayerSettings& settings = *view.settings();
     OpenMenu& openMenu = view.openMenu();
     Keyboard& keyboard = *view.keyboard();
@@ -35,9 +37,9 @@ protected:
 
     // Ends the match with these scores; nothing that waits in the main queue has run yet.
     void endMatch(int redScore, int blueScore) {
-        match.redScore = redScore;
-        match.blueScore = blueScore;
-        match.phase = GamePhase::gameOver;
+        setup.state().redScore = redScore;
+        setup.state().blueScore = blueScore;
+        setup.state().phase = GamePhase::gameOver;
     }
     void finishMatch(int redScore, int blueScore) {
         endMatch(redScore, blueScore);

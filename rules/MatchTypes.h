@@ -2,7 +2,6 @@
 #pragma once
 
 #include "l10n/TextKey.h"
-#include "platform/scenegraph/Vector.h"
 
 #include <array>
 #include <cstddef>
@@ -37,15 +36,11 @@ inline constexpr std::array allDifficulties{AIDifficulty::easy, AIDifficulty::me
     return side == BallColor::red ? BallColor::blue : BallColor::red;
 }
 
+inline constexpr int ballsPerSide = 6; // colour balls of each side in each end
+
 // Ends alternate: red throws the jack, or the first ball of an extra end, in odd ends and blue in even ones.
 [[nodiscard]] constexpr BallColor startingSide(int end) {
     return end % 2 != 0 ? BallColor::red : BallColor::blue;
-}
-
-// Name of the scene nodes that are balls of this kind.
-[[nodiscard]] constexpr std::string_view nodeName(BallColor color) {
-    constexpr std::array<std::string_view, 3> names{"red", "blue", "jack"};
-    return names[static_cast<std::size_t>(color)];
 }
 
 // One finished end. Its number identifies it: ends count from 1, extra ends go on from 5.
@@ -56,13 +51,6 @@ struct EndResult {
 
     [[nodiscard]] int id() const { return end; }
     bool operator==(const EndResult&) const = default;
-};
-
-// A shot that the computer considers.
-struct AICandidate {
-    Vec3 target{0};             // where the ball should come to rest
-    double score = 0;           // desirability; the highest wins
-    double powerMultiplier = 1; // above 1 for shots that must arrive with pace
 };
 
 } // namespace vorbel
