@@ -22,6 +22,8 @@ inline const QColor courtGreen(42, 160, 96);
 inline const QColor red(255, 82, 71);
 inline const QColor blue(77, 163, 255);
 
+inline constexpr int patience = 60'000; // ms, on a busy machine without a graphics card
+
 class Desktop {
 public:
     [[nodiscard]] static Desktop& instance();
@@ -33,10 +35,10 @@ public:
     // "Left", "Tab"), in the window that has the focus.
     void press(const QString& key) const;
 
-    // The same, and waits up to ten seconds until that part of the picture is another than before.
+    // The same, and waits until that part of the picture is another than before.
     [[nodiscard]] bool pressUntilChanged(const QString& key, const QRect& part) const;
 
-    // Waits for the game's window and gives it the keyboard. False when none appears within ten seconds.
+    // Waits for the game's window and gives it the keyboard. False when none appears.
     [[nodiscard]] bool focusGame() const;
 
     // From the main menu to the arena: start, this country, this class.
@@ -55,6 +57,6 @@ private:
 [[nodiscard]] bool alike(const QColor& a, const QColor& b);
 
 // Looks again and again until the condition holds; false when it does not within the time.
-[[nodiscard]] bool waitUntil(const std::function<bool()>& condition, int milliseconds);
+[[nodiscard]] bool waitUntil(const std::function<bool()>& condition, int milliseconds = patience);
 
 } // namespace vorbel

@@ -12,7 +12,7 @@ namespace vorbel {
 namespace {
 
 bool shows(QPoint place, const QColor& color) {
-    return waitUntil([&] { return alike(Desktop::instance().picture().pixelColor(place), color); }, 10'000);
+    return waitUntil([&] { return alike(Desktop::instance().picture().pixelColor(place), color); });
 }
 
 // From the main menu into a match, and its first key: the game goes on if its display does.
@@ -98,7 +98,7 @@ TEST(StartTest, WithoutOpenGlItSaysSoInOneLineAndTheMatchGoesOn) {
           Program::Environment{{QStringLiteral("MESA_GL_VERSION_OVERRIDE"), QStringLiteral("2.1")}}}) {
         Program game({}, environment);
         ASSERT_TRUE(Desktop::instance().focusGame());
-        EXPECT_TRUE(waitUntil([&game] { return game.errors().contains(QStringLiteral("OpenGL")); }, 5'000));
+        EXPECT_TRUE(waitUntil([&game] { return game.errors().contains(QStringLiteral("OpenGL")); }));
         expectToPlay();
         EXPECT_TRUE(game.isRunning());
         EXPECT_EQ(lines(game.errors()), 1) << qUtf8Printable(game.errors());
