@@ -2,5 +2,6 @@
 find_program(VORBEL_CCACHE ccache)
 mark_as_advanced(VORBEL_CCACHE)
 if(VORBEL_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${VORBEL_CCACHE})
+    # Without leave to be sloppy about these two it keeps nothing that uses precompiled headers.
+    set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros ${VORBEL_CCACHE})
 endif()

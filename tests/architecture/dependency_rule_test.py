@@ -44,7 +44,7 @@ class TheCheck(unittest.TestCase):
         "platform/Platform.h": '#include "platform/runloop/Queue.h"\n',
         "platform/runloop/CMakeLists.txt": "vorbel_library(vorbel_runloop SOURCES Queue.cpp)\n"
         "vorbel_library(vorbel_runloop_qt SOURCES QtQueue.cpp LINKS vorbel_runloop Qt6::Core)\n",
-        "platform/runloop/Queue.h": "",
+        "platform/runloop/Queue.h": '#include "math/Vector.h"\n',
         "platform/runloop/Queue.cpp": '#include "platform/runloop/Queue.h"\n',
         "platform/runloop/QtQueue.h": "#include <QObject>\n",
         "platform/runloop/QtQueue.cpp": '#include "platform/runloop/QtQueue.h"\n',
@@ -91,6 +91,9 @@ class TheCheck(unittest.TestCase):
         for name, header in (
             ("platform/random/R.h", "engine/Game.h"),
             ("l10n/Table.cpp", "platform/runloop/Queue.h"),
+            ("l10n/Table.cpp", "math/Vector.h"),
+            ("math/Angle.h", "rules/Points.h"),
+            ("platform/random/R.h", "rules/Points.h"),
             ("rules/Turn.cpp", "platform/runloop/Queue.h"),
             ("rules/Turn.cpp", "scene/Court.h"),
             ("scene/Court.cpp", "engine/Game.h"),
@@ -106,6 +109,8 @@ class TheCheck(unittest.TestCase):
         for name in ("scene/X.cpp", "engine/X.cpp"):
             for header in ("platform/render/Frame.h", "platform/physics/Shapes.h"):
                 self.assert_refused(name, f'#include "{header}"\n', "arrows point down")
+        self.assert_refused("scene/X.cpp", '#include "platform/physics/PhysicsWorld.h"\n', "arrows point down")
+        self.assert_refused("career/X.cpp", '#include "platform/runloop/Queue.h"\n', "arrows point down")
 
     def test_refuses_a_library_where_it_is_not_known(self):
         outside = ("<btBulletDynamicsCommon.h>", "<bullet/LinearMath/btVector3.h>", "<QString>", "<QtCore/qglobal.h>")
