@@ -131,7 +131,7 @@ TEST(ComputerShotsTest, OfEquallyFreeSpotsTheFirstTowardsTheRightIsTaken) {
 
 TEST(ComputerShotsTest, ATargetIsExtendedAlongTheThrowOfItsSide) {
     expectNear(extendTarget(at(1, -4.5), 0.5, BallColor::blue), at(1, -5.0));
-    expectNear(extendTarget(at(2, -3.5), 5, BallColor::red), at(5, -6.5));
+    expectNear(extendTarget(at(2, -3.5), std::sqrt(18.0), BallColor::red), at(5, -6.5));
     EXPECT_EQ(extendTarget(blueSpot, 0.5, BallColor::blue), blueSpot);
     EXPECT_EQ(extendTarget(at(1, -0.501), 0.5, BallColor::blue),
               at(1, -0.501)); // within a millimetre of the spot
