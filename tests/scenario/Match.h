@@ -1,5 +1,4 @@
-// A match to put into any position and to play on the virtual clock: given.jackAt(…), given.red(…),
-// when.settled().
+// A match to put into any position and to play on the virtual clock: jackAt(…), redAt(…), then settled().
 #pragma once
 
 #include "engine/GameLogic.h"
