@@ -69,6 +69,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     NotificationCenter notifications;
     ContentView view(platform.services(), platform.defaults);
     view.receiveNotifications(notifications);
+    setDefaultFont(view.settings()->selectedLanguage());
     VorbelApp shell(*view.settings(), notifications);
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
                      [&shell] { shell.toggleFullScreenEmulation(true); });

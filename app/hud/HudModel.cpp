@@ -1,6 +1,7 @@
 #include "app/hud/HudModel.h"
 
 #include "app/text/Texts.h"
+#include "career/Tournament.h"
 
 namespace vorbel {
 
@@ -10,9 +11,12 @@ QString tournamentLine(const GameLogic& match) {
     if (!match.tournamentActive) {
         return {};
     }
-    const QString round = QString::number(match.tournamentRound.get());
-    const QString opponent = text(key(match.blueCountry), match.language);
-    return QStringLiteral("%1 %2 · %3").arg(text("menu.tournament", match.language), round, opponent);
+    const AppLanguage language = match.language;
+    const int round = match.tournamentRound;
+    return text("hud.tournament.format", language,
+                {L10n::t("menu.tournament", language), std::to_string(round),
+                 std::to_string(tournamentRounds), L10n::t(key(match.blueCountry), language),
+                 L10n::t(key(tournamentDifficulty(round)), language)});
 }
 
 } // namespace

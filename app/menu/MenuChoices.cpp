@@ -68,6 +68,11 @@ void MenuChoices::setCountryIndex(int index) {
 QStringList MenuChoices::sportClasses() const {
     return texts(allBocciaClasses, [](BocciaClass sportClass) { return qString(rawValue(sportClass)); });
 }
+QStringList MenuChoices::classDescriptions() const {
+    return texts(allBocciaClasses, [this](BocciaClass sportClass) {
+        return text(descriptionKey(sportClass), settings_.selectedLanguage());
+    });
+}
 int MenuChoices::classIndex() const {
     return static_cast<int>(settings_.selectedClass());
 }

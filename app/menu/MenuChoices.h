@@ -26,6 +26,7 @@ class MenuChoices : public QObject {
 
     Q_PROPERTY(QStringList sportClasses READ sportClasses CONSTANT FINAL)
     Q_PROPERTY(int classIndex READ classIndex WRITE setClassIndex NOTIFY changed FINAL)
+    Q_PROPERTY(QStringList classDescriptions READ classDescriptions NOTIFY languageChanged FINAL)
     Q_PROPERTY(QString classDescription READ classDescription NOTIFY changed FINAL)
 
 public:
@@ -40,7 +41,8 @@ public:
     [[nodiscard]] QStringList flags() const;     // of the same countries, emoji
     [[nodiscard]] int countryIndex() const;
 
-    [[nodiscard]] QStringList sportClasses() const; // "BC1" … "BC4"
+    [[nodiscard]] QStringList sportClasses() const;      // "BC1" … "BC4"
+    [[nodiscard]] QStringList classDescriptions() const; // of the same classes
     [[nodiscard]] int classIndex() const;
     [[nodiscard]] QString classDescription() const; // of the selected one
 

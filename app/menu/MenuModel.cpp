@@ -43,8 +43,10 @@ QUrl MenuModel::logo() const {
     const auto file = resources_.find("Logo", "png");
     return file ? QUrl::fromLocalFile(QString::fromStdString(file->string())) : QUrl();
 }
-QString MenuModel::webSite() const {
-    return QStringLiteral("https://vorbel.example/");
+QUrl MenuModel::pages() const {
+    const std::string name = "pages/" + std::string(rawValue(settings_.selectedLanguage()));
+    const auto file = resources_.find(name, "html");
+    return file ? QUrl::fromLocalFile(QString::fromStdString(file->string())) : QUrl();
 }
 
 void MenuModel::startGame() {
@@ -65,8 +67,8 @@ void MenuModel::openRules() {
 void MenuModel::openAbout() {
     open(MenuScreen::about);
 }
-void MenuModel::openWebSite() {
-    QDesktopServices::openUrl(QUrl(webSite()));
+void MenuModel::openPages() {
+    QDesktopServices::openUrl(pages());
 }
 void MenuModel::quit() {
     QCoreApplication::quit();

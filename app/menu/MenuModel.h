@@ -30,7 +30,6 @@ class MenuModel : public QObject {
     Q_PROPERTY(bool open READ isOpen NOTIFY screenChanged FINAL)
     Q_PROPERTY(bool rightToLeft READ rightToLeft NOTIFY languageChanged FINAL)
     Q_PROPERTY(QUrl logo READ logo CONSTANT FINAL)
-    Q_PROPERTY(QString webSite READ webSite CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuTexts* texts READ texts CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuChoices* choices READ choices CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuCareer* career READ career CONSTANT FINAL)
@@ -47,8 +46,8 @@ public:
     [[nodiscard]] Screen screen() const;
     [[nodiscard]] bool isOpen() const;
     [[nodiscard]] bool rightToLeft() const;
-    [[nodiscard]] QUrl logo() const;       // empty when the picture is missing
-    [[nodiscard]] QString webSite() const; // the makers'
+    [[nodiscard]] QUrl logo() const;  // empty when the picture is missing
+    [[nodiscard]] QUrl pages() const; // the game's own, in the player's language; empty when missing
     [[nodiscard]] MenuTexts* texts() { return &texts_; }
     [[nodiscard]] MenuChoices* choices() { return &choices_; }
     [[nodiscard]] MenuCareer* career() { return &career_; }
@@ -59,7 +58,7 @@ public:
     Q_INVOKABLE void openDiary();
     Q_INVOKABLE void openRules();
     Q_INVOKABLE void openAbout();
-    Q_INVOKABLE void openWebSite(); // in the system's browser
+    Q_INVOKABLE void openPages();   // in the system's browser
     Q_INVOKABLE void quit();        // ends the program, without asking
     Q_INVOKABLE void chooseClass(); // the country is chosen
     Q_INVOKABLE void back();        // to the main screen, from every other one

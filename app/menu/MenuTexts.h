@@ -28,6 +28,7 @@ class MenuTexts : public QObject {
     Q_PROPERTY(QString back READ back NOTIFY changed FINAL)
     Q_PROPERTY(QString rulesText READ rulesText NOTIFY changed FINAL)
     Q_PROPERTY(QString aboutText READ aboutText NOTIFY changed FINAL)
+    Q_PROPERTY(QString pages READ pages NOTIFY changed FINAL)
     Q_PROPERTY(QString diaryEmpty READ diaryEmpty NOTIFY changed FINAL)
 
 public:
@@ -50,6 +51,7 @@ public:
     [[nodiscard]] QString back() const { return t("menu.back"); }
     [[nodiscard]] QString rulesText() const { return t("rules.text"); }
     [[nodiscard]] QString aboutText() const { return t("about.text"); }
+    [[nodiscard]] QString pages() const { return t("about.pages"); }
     [[nodiscard]] QString diaryEmpty() const { return t("diary.empty"); }
 
 signals:

@@ -38,7 +38,11 @@ void prepareFonts() {
         }
     }
     QFont::insertSubstitutions(base, {emoji});
-    QGuiApplication::setFont(QFont(base));
+    setDefaultFont(defaultLanguage);
+}
+
+void setDefaultFont(AppLanguage language) {
+    QGuiApplication::setFont(QFont(fontFamily(language)));
 }
 
 } // namespace vorbel

@@ -20,6 +20,10 @@ namespace vorbel {
 // Call once, after the application object was made.
 void prepareFonts();
 
+// The family of all texts until the window has set that of the player's language: asked for a script that a
+// family lacks, the toolkit complains before it looks further. Call before the window is made.
+void setDefaultFont(AppLanguage language);
+
 [[nodiscard]] constexpr bool isRightToLeft(AppLanguage language) {
     return language == AppLanguage::ar;
 }

@@ -26,7 +26,7 @@ QtObject {
     readonly property int title: 24
     readonly property int hugeTitle: 42
 
-    property string fontFamily: "Noto Sans" // of the player's language; the window sets it
+    property string fontFamily: Qt.application.font.family // of the player's language; the window follows it
 
     function white(opacity: real): color {
         return Qt.rgba(1, 1, 1, opacity);

@@ -1,4 +1,4 @@
-// A label and the number that belongs to it.
+// A label and the number that belongs to it; read out, it names its side.
 import QtQuick
 import QtQuick.Layouts
 import Vorbel
@@ -6,6 +6,7 @@ import Vorbel
 RowLayout {
     id: row
 
+    required property string side
     required property string label
     required property int count
 
@@ -13,7 +14,7 @@ RowLayout {
     Layout.fillWidth: true
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: label + " " + count
+    Accessible.name: side + ", " + label + " " + count
     Accessible.ignored: !enabled // the display while the menu is open
 
     Text {

@@ -18,6 +18,12 @@ Panel {
         }
         Rectangle {
             id: bar
+
+            // What assistive technology reads of a progress bar.
+            readonly property int minimumValue: 0
+            readonly property int maximumValue: 100
+            readonly property int value: Math.round(panel.power)
+
             width: 400
             height: 22
             radius: height / 2

@@ -2,6 +2,7 @@
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include <QAccessible>
+#include <QFileInfo>
 #include <QSet>
 #include <QTest>
 #include <QUrl>
@@ -220,10 +221,15 @@ TEST_F(ControlsTest, AssistiveTechnologyPressesButtonsChoicesAndSwitches) {
     EXPECT_EQ(view.settings()->selectedCountry(), Country::japan);
 }
 
-TEST_F(ControlsTest, TheAboutScreenHasALinkToTheMakers) {
+TEST_F(ControlsTest, TheAboutScreenHasALinkToTheGamesPagesInThePlayersLanguage) {
     game.open(MenuScreen::about);
-    EXPECT_EQ(accessible(control(view.menu()->webSite()))->role(), QAccessible::Link);
-    EXPECT_TRUE(QUrl(view.menu()->webSite(), QUrl::StrictMode).isValid());
+    EXPECT_EQ(accessible(control(QStringLiteral("The game's pages")))->role(), QAccessible::Link);
+    for (const AppLanguage language : allLanguages) {
+        game.setLanguage(language);
+        const QFileInfo page(view.menu()->pages().toLocalFile());
+        EXPECT_TRUE(page.isFile()) << rawValue(language);
+        EXPECT_EQ(page.baseName().toStdString(), rawValue(language));
+    }
 }
 
 TEST_F(ControlsTest, OfALongDiaryOnlyTheRowsThatAreSeenAreMadeAndItScrollsToItsEnd) {

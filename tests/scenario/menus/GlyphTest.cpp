@@ -53,6 +53,9 @@ TEST_P(GlyphTest, EveryTextOfTheTableIsShown) {
     for (const std::string_view key : L10n::keys) {
         expectShown(qString(L10n::tNamed(key, GetParam())));
     }
+    for (const std::string_view key : L10n::extraKeys) {
+        expectShown(qString(L10n::tNamed(key, GetParam())));
+    }
 }
 
 TEST_P(GlyphTest, ItsOwnNameArrowsAndDigitsAreShown) {

@@ -2,15 +2,12 @@
 #include "tests/MatchSetup.h"
 #include "tests/scenario/menus/LayoutCheck.h"
 #include "tests/scenario/menus/MenuWindow.h"
+#include "tests/scenario/menus/Pictures.h"
 
 #include "career/Diary.h"
 #include "platform/random/Uuid.h"
 
-#include <QDir>
-
 #include <gtest/gtest.h>
-
-#include <cstdlib>
 
 namespace vorbel {
 
@@ -52,22 +49,6 @@ void fill(MenuWindow& game) {
     match.endHistory = std::vector<EndResult>{{1, 2, 0}, {2, 0, 1}, {3, 0, 3}, {4, 2, 0}, {5, 1, 0}};
     match.redScore = 5;
     match.blueScore = 4;
-}
-
-// Where pictures of the screens go: the folder that the variable names; without it none are kept.
-QString picturesFolder() {
-    const char* folder = std::getenv("VORBEL_MENU_PICTURES");
-    return folder == nullptr ? QString() : QString::fromLocal8Bit(folder);
-}
-
-void keep(const QImage& picture, AppLanguage language, const char* screen) {
-    const QString folder = picturesFolder();
-    if (!folder.isEmpty()) {
-        QDir().mkpath(folder);
-        EXPECT_TRUE(picture.save(
-            QStringLiteral("%1/%2-%3.png")
-                .arg(folder, QString::fromUtf8(rawValue(language)), QString::fromLatin1(screen))));
-    }
 }
 
 const Resources resources({VORBEL_RESOURCES_FOLDER});

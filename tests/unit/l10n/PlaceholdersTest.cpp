@@ -31,6 +31,24 @@ protected:
     [[nodiscard]] bool hasMessages() const { return GetParam() != AppLanguage::ru; }
 };
 
+// What stands between the points of the two sides.
+std::string_view scoreSign(AppLanguage language) {
+    switch (language) {
+    case AppLanguage::es:
+    case AppLanguage::fr:
+    case AppLanguage::it:
+    case AppLanguage::pt:
+    case AppLanguage::tr:
+    case AppLanguage::nl:
+    case AppLanguage::vi:
+    case AppLanguage::id:
+    case AppLanguage::el:
+        return "-";
+    default:
+        return ":";
+    }
+}
+
 bool has(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
@@ -63,14 +81,14 @@ TEST_P(PlaceholdersTest, ThePointsOfAnEndComeAfterTheWinner) {
     EXPECT_TRUE(pieces[1].ends_with(": ") || pieces[1].ends_with("：")) << texts.at("msg.endWon.format");
 }
 
-TEST_P(PlaceholdersTest, TheScoreStandsAfterTheResultAndHasOneSignBetween) {
+TEST_P(PlaceholdersTest, TheScoreStandsAfterTheResultWithTheLanguagesSignBetween) {
     if (!hasMessages()) {
         return;
     }
     const auto pieces = piecesOf("msg.matchOver.format");
     ASSERT_EQ(pieces.size(), 4u);
     EXPECT_EQ(pieces[0], "");
-    EXPECT_TRUE(pieces[2] == ":" || pieces[2] == "-") << texts.at("msg.matchOver.format");
+    EXPECT_EQ(pieces[2], scoreSign(GetParam())) << texts.at("msg.matchOver.format");
 }
 
 TEST_P(PlaceholdersTest, RoundComesBeforeTheNumberOfRoundsAndOpponentBeforeLevel) {

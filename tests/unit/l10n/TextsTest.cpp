@@ -130,6 +130,24 @@ TEST_P(Texts, tellChoicesSideBySideApart) {
     EXPECT_NE(texts.at("team.red.caps"), texts.at("team.blue.caps"));
 }
 
+// Capitals of the Latin, Greek and Cyrillic letters that the texts use.
+bool isCapital(char32_t letter) {
+    return (letter >= U'A' && letter <= U'Z') || (letter >= U'À' && letter <= U'Þ') ||
+           (letter >= U'Α' && letter <= U'Ω') || (letter >= U'Ѐ' && letter <= U'Я') || letter == U'Ґ';
+}
+
+// The name of the winner within is not in capitals: words around it that are would shout past it.
+TEST_P(Texts, TellTheWinnerOfAMatchWithoutShouting) {
+    if (GetParam() == AppLanguage::ru || GetParam() == AppLanguage::en) {
+        return;
+    }
+    const std::u32string sentence = codePoints(texts.at("msg.teamWinMatch.format"));
+    for (std::size_t i = 1; i < sentence.size(); ++i) {
+        EXPECT_FALSE(isCapital(sentence[i - 1]) && isCapital(sentence[i]))
+            << texts.at("msg.teamWinMatch.format");
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(L10n, Texts, testing::ValuesIn(allLanguages), nameOf);
 
 } // namespace
