@@ -55,7 +55,7 @@ struct WindowPlatform {
 
 QIcon windowIcon(const Resources& resources) {
     QIcon icon;
-    for (const char* name : {"Icon16", "Icon32", "Icon48", "Icon128", "Icon256"}) {
+    for (const char* name : {"Icon16", "Icon22", "Icon32", "Icon48", "Icon64", "Icon128", "Icon256"}) {
         if (const auto file = resources.find(name, "png")) {
             icon.addFile(QString::fromStdString(file->string()));
         }
