@@ -1,6 +1,7 @@
 // The display over the arena in every language: no text is cut off, overlaps another or leaves the window.
 #include "engine/Messages.h"
 #include "l10n/L10n.h"
+#include "tests/MatchSetup.h"
 #include "tests/scenario/menus/LayoutCheck.h"
 #include "tests/scenario/menus/MenuWindow.h"
 #include "tests/scenario/menus/Pictures.h"
@@ -47,6 +48,7 @@ class HudTest : public testing::TestWithParam<AppLanguage> {
 protected:
     MenuWindow game{resources};
     GameLogic& match = game.view().gameLogic();
+    MatchState& state = MatchSetup(match).state();
 
     HudTest() {
         game.setLanguage(GetParam());
@@ -60,7 +62,7 @@ protected:
 };
 
 TEST_P(HudTest, TheLongestMessagesHaveTheirPlaceAboveThePowerBarToo) {
-    match.aimState = AimState::aimingPower;
+    state.aimState = AimState::aimingPower;
     const std::vector<std::string> messages = messagesIn(GetParam());
     for (std::size_t i = 0; i < 4; ++i) {
         match.message = messages[i];
@@ -72,10 +74,10 @@ TEST_P(HudTest, TheLongestNamesHaveTheirPlaceDuringATournament) {
     const Country country = longestNamed(GetParam());
     game.view().settings()->setSelectedCountry(country);
     game.view().settings()->setSelectedClass(BocciaClass::bc3);
-    match.tournamentActive = true;
+    state.tournamentActive = true;
     match.blueCountry = country;
     for (const int round : {1, 2, 3, 4}) {
-        match.tournamentRound = round;
+        state.tournamentRound = round;
         match.message = messages::tournamentRound(GetParam(), round, country);
         check(match.message, ("hud-round-" + std::to_string(round)).c_str());
     }

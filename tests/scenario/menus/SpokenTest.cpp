@@ -1,5 +1,6 @@
 // What assistive technology is told of things that the eye takes from their place or colour.
 #include "l10n/L10n.h"
+#include "tests/MatchSetup.h"
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include <QAccessible>
@@ -58,8 +59,8 @@ TEST_F(SpokenTest, EachClassIsDescribedByItsOwnRadioButton) {
 
 TEST_F(SpokenTest, ThePowerBarTellsThePower) {
     game.open(MenuScreen::hidden);
-    game.view().gameLogic().aimState = AimState::aimingPower;
-    game.view().gameLogic().aimPower = 41.6;
+    MatchSetup(game.view().gameLogic()).state().aimState = AimState::aimingPower;
+    MatchSetup(game.view().gameLogic()).state().aimPower = 41.6;
     const auto bars = spoken(QAccessible::ProgressBar);
     ASSERT_EQ(bars.size(), 1u);
     EXPECT_EQ(bars[0]->text(QAccessible::Name), QStringLiteral("Throw power"));
