@@ -152,8 +152,8 @@ void main() { color = vec4(background.rgb * background.w, 1.0); }
 )";
 
 const std::string_view pieceVertex = R"(
-layout(location = 0) in vec4 part;   // left, bottom, right, top: fractions of the picture
-layout(location = 1) in vec2 offset; // from there to the place in the sheet, pixels
+layout(location = 0) in vec4 part;   // left, lower, right, upper edge in the layer: fractions of it
+layout(location = 1) in vec2 offset; // pixels: x in the sheet less x in the layer, the sum of both y
 flat out ivec2 shift;
 void main() {
     vec2 corner = vec2(gl_VertexID & 1, gl_VertexID >> 1);
@@ -167,7 +167,8 @@ uniform sampler2D picture;
 flat in ivec2 shift;
 layout(location = 0) out vec4 color;
 void main() {
-    vec3 linear = texelFetch(picture, ivec2(gl_FragCoord.xy) + shift, 0).rgb;
+    ivec2 pixel = ivec2(gl_FragCoord.xy); // the layer is upside down
+    vec3 linear = texelFetch(picture, ivec2(shift.x + pixel.x, shift.y - pixel.y), 0).rgb;
     vec3 encoded = mix(linear * 12.92, 1.055 * pow(linear, vec3(1.0 / 2.4)) - 0.055, step(0.0031308, linear));
     // Half a step of noise, the same in every frame, hides the steps of slow gradients.
     float noise = fract(52.9829189 * fract(dot(gl_FragCoord.xy, vec2(0.06711056, 0.00583715)))) - 0.5;
@@ -178,7 +179,10 @@ void main() {
 const std::string_view copyFragment = R"(
 uniform sampler2D picture;
 layout(location = 0) out vec4 color;
-void main() { color = texelFetch(picture, ivec2(gl_FragCoord.xy), 0); }
+void main() {
+    ivec2 pixel = ivec2(gl_FragCoord.xy);
+    color = texelFetch(picture, ivec2(pixel.x, textureSize(picture, 0).y - 1 - pixel.y), 0);
+}
 )";
 
 } // namespace vorbel::shaders
