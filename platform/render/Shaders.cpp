@@ -49,9 +49,10 @@ layout(std140) uniform Lights {
     vec4 lightPosition;
     vec4 lightDirection;
     vec4 lightStrength;
-    vec4 cone;            // cosines of the inner and the outer half angle; z: texel of the shadow map, as a tangent
-    vec4 shadowScale;     // 1 / near, 1 / (1 / near - 1 / far), 1 / (2 tan half angle), bias in metres
-    vec4 shadowOffset[16]; // xy: texture coordinates, zw: the same as tangents of the angle at the light
+    vec4 cone;            // cosines of the inner and the outer half angle; zw: texel of the shadow map, as tangents
+    vec4 shadowPlace;     // from tangents of angles at the light to texture coordinates: times xy, plus zw
+    vec4 shadowDepth;     // 1 / near, 1 / (1 / near - 1 / far), bias in metres
+    vec4 shadowOffset[16]; // xy: texture coordinates, zw: the same as tangents of angles at the light
 };
 uniform sampler2D picture;
 uniform highp sampler2DShadow shadowMap;
@@ -71,10 +72,13 @@ float visibility(vec3 normal) {
     vec3 facing = mat3(lightView) * normal;
     float distance = -point.z;
     float plane = max(-dot(facing, point), 0.05 * distance);
-    vec2 slope = facing.xy / plane * shadowScale.y;
-    vec3 start = vec3(point.xy / distance * shadowScale.z + 0.5,
-                      (shadowScale.x - 1.0 / (distance - shadowScale.w)) * shadowScale.y);
-    start.z -= dot(abs(slope), cone.zz); // each sample mixes texels up to one away
+    vec2 slope = facing.xy / plane * shadowDepth.y;
+    vec3 start = vec3(point.xy / distance * shadowPlace.xy + shadowPlace.zw,
+                      (shadowDepth.x - 1.0 / (distance - shadowDepth.z)) * shadowDepth.y);
+    if (any(greaterThan(abs(start.xy - 0.5), vec2(0.5)))) {
+        return 1.0; // nothing that is seen is shaded there
+    }
+    start.z -= dot(abs(slope), cone.zw); // each sample mixes texels up to one away
     float sum = 0.0;
     for (int i = 0; i < 16; ++i) { // a constant, so that compilers unroll it
         vec4 offset = shadowOffset[i];
@@ -131,7 +135,7 @@ void main() {
 #endif
 #ifdef FLOOR
     // What is there already is the mirror image. Both fade into the background before the floor ends.
-    float seen = 1.0 - smoothstep(0.4, 0.9, length(worldPosition - eye.xyz) / eye.w);
+    float seen = 1.0 - smoothstep(0.2, 0.6, length(worldPosition - eye.xyz) / eye.w);
     surface = vec4(mix(background.rgb, surface.rgb, seen), seen);
 #endif
     color = surface;
