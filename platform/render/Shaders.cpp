@@ -28,6 +28,9 @@ flat out vec4 surfaceDiffuse;
 flat out vec4 surfaceEmission;
 out vec3 shapePoint;
 
+// Turns the seams away from where the light ends on a ball that is not turned itself.
+const mat3 tilt = mat3(0.9004, 0.4350, 0.0, -0.3590, 0.7431, 0.5646, 0.2456, -0.5084, 0.8253);
+
 void main() {
     vec4 point = vec4(position, 1.0);
     worldPosition = vec3(dot(worldX, point), dot(worldY, point), dot(worldZ, point));
@@ -37,7 +40,7 @@ void main() {
     pictureUv = uv;
     surfaceDiffuse = diffuse;
     surfaceEmission = emission;
-    shapePoint = position;
+    shapePoint = tilt * position;
     gl_Position = viewProjection * vec4(worldPosition, 1.0);
 }
 )";
@@ -62,7 +65,7 @@ in vec3 worldNormal;
 in vec2 pictureUv;
 flat in vec4 surfaceDiffuse;
 flat in vec4 surfaceEmission; // w: 1 when the surface has seams
-in vec3 shapePoint;           // in the frame of the shape
+in vec3 shapePoint;           // in the frame of the shape; of balls with seams, turned
 layout(location = 0) out vec4 color;
 
 // Share of the light that reaches the surface. The depth that each sample is compared with follows the plane of
@@ -99,16 +102,23 @@ vec3 incomingLight() {
     return ambient.rgb + lightStrength.rgb * spot;
 }
 
+// How many pixels a ball is across here, from how much of its unit sphere the pixel covers.
+float pixelsAcross(vec3 point) {
+    float facing = dot(normalize(worldNormal), normalize(eye.xyz - worldPosition));
+    return 2.0 * inversesqrt(max(length(cross(dFdx(point), dFdy(point))) * facing, 1e-8));
+}
+
 // Leather panels, eight on a ball, every other one a little darker, with sewn seams between them: so that the
-// turning of a ball is seen.
+// turning of a ball is seen. All together they have the colour of the ball. Small balls are plain.
 float leather() {
-    const float seamHalfWidth = 0.05; // of the radius
+    const float seamHalfWidth = 0.05; // of the radius; the seams are 0.15 of the ball
     vec3 point = normalize(shapePoint);
+    float share = smoothstep(12.0, 20.0, pixelsAcross(point));
     vec3 pixel = max(fwidth(point), vec3(0.01));
     vec3 side = clamp(point / pixel * 2.0, -1.0, 1.0);
-    float dark = 0.5 - 0.5 * side.x * side.y * side.z;
     vec3 seam = (min(abs(point) + pixel * 0.5, seamHalfWidth) - min(abs(point) - pixel * 0.5, seamHalfWidth)) / pixel;
-    return (1.0 - 0.18 * dark) * (1.0 - 0.3 * max(max(seam.x, seam.y), seam.z));
+    float pattern = (1.0 + 0.09 * side.x * side.y * side.z) * (1.0 - 0.3 * max(max(seam.x, seam.y), seam.z));
+    return mix(1.0, pattern / (1.0 - 0.3 * 0.15), share);
 }
 
 void main() {
@@ -127,10 +137,11 @@ void main() {
     surface.rgb *= incomingLight();
 #endif
     surface.rgb = min(surface.rgb + surfaceEmission.rgb, 1.0);
+#ifndef MIRROR
     if (surfaceEmission.w > 0.5) {
         surface.rgb *= leather();
     }
-#ifdef MIRROR
+#else
     surface.rgb *= background.w;
 #endif
 #ifdef FLOOR
