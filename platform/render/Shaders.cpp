@@ -27,6 +27,7 @@ out vec2 pictureUv;
 flat out vec4 surfaceDiffuse;
 flat out vec4 surfaceEmission;
 out vec3 shapePoint;
+flat out vec3 halfSize;
 
 // Turns the seams away from where the light ends on a ball that is not turned itself.
 const mat3 tilt = mat3(0.9004, 0.4350, 0.0, -0.3590, 0.7431, 0.5646, 0.2456, -0.5084, 0.8253);
@@ -40,7 +41,13 @@ void main() {
     pictureUv = uv;
     surfaceDiffuse = diffuse;
     surfaceEmission = emission;
-    shapePoint = tilt * position;
+    vec3 size = vec3(length(vec3(worldX.x, worldY.x, worldZ.x)), length(vec3(worldX.y, worldY.y, worldZ.y)),
+                     length(vec3(worldX.z, worldY.z, worldZ.z)));
+    halfSize = 0.5 * size;
+    shapePoint = position * size;
+    if (emission.w == 1.0) {
+        shapePoint = tilt * shapePoint;
+    }
     gl_Position = viewProjection * vec4(worldPosition, 1.0);
 }
 )";
@@ -64,8 +71,9 @@ in vec3 worldPosition;
 in vec3 worldNormal;
 in vec2 pictureUv;
 flat in vec4 surfaceDiffuse;
-flat in vec4 surfaceEmission; // w: 1 when the surface has seams
-in vec3 shapePoint;           // in the frame of the shape; of balls with seams, turned
+flat in vec4 surfaceEmission; // w: 1 when the surface has seams, 2 when it has dark edges
+in vec3 shapePoint;           // in the frame of the shape, metres; of balls with seams, turned
+flat in vec3 halfSize;        // of a box, metres
 layout(location = 0) out vec4 color;
 
 // Share of the light that reaches the surface. The depth that each sample is compared with follows the plane of
@@ -121,6 +129,15 @@ float leather() {
     return mix(1.0, pattern / (1.0 - 0.3 * 0.15), share);
 }
 
+// A glowing bar is darker along its edges: it stands out from a ground that is as light as itself.
+float edging() {
+    const float width = 0.005; // metres
+    vec3 inside = halfSize - abs(shapePoint); // one of the three is 0: that of the face
+    float toEdge = inside.x + inside.y + inside.z - max(max(inside.x, inside.y), inside.z);
+    float pixel = max(fwidth(toEdge), 1e-5);
+    return mix(0.12, 1.0, clamp((toEdge - width) / pixel + 0.5, 0.0, 1.0));
+}
+
 void main() {
     vec4 surface = surfaceDiffuse;
 #ifdef PICTURE
@@ -138,7 +155,9 @@ void main() {
 #endif
     surface.rgb = min(surface.rgb + surfaceEmission.rgb, 1.0);
 #ifndef MIRROR
-    if (surfaceEmission.w > 0.5) {
+    if (surfaceEmission.w > 1.5) {
+        surface.rgb *= edging();
+    } else if (surfaceEmission.w > 0.5) {
         surface.rgb *= leather();
     }
 #else

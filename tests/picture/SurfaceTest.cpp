@@ -177,6 +177,16 @@ TEST_F(SurfaceTest, SmallBallIsPlain) {
     EXPECT_LT(light.lightest, 1.03 * light.darkest);
 }
 
+TEST_F(SurfaceTest, GlowingBarHasDarkEdges) {
+    scene.root->children().front()->setPosition({0, 0.1, 0.2});
+    scene.root->children().front()->setEulerAngles({-std::atan2(0.1, 0.2), 0, 0});
+    add(Box{0.4, 0.02, 0.02}, {.diffuse = colors::systemRed, .emission = colors::systemRed});
+    const QImage drawn = draw();
+    EXPECT_GT(colorAt(drawn, {0, 0.01, 0}).red(), 250);
+    EXPECT_LT(colorAt(drawn, {0, 0.01, -0.009}).red(), 110);
+    EXPECT_LT(colorAt(drawn, {0, 0.01, 0.009}).red(), 110);
+}
+
 TEST_F(SurfaceTest, LayersAMillimetreApartDoNotMixAtTenMetres) {
     scene.root->children().front()->setPosition({0, 2, 10});
     scene.root->children().front()->setEulerAngles({-std::atan2(2.0, 10.0), 0, 0});
