@@ -1,5 +1,5 @@
-#include "app/CommandLine.h"
-#include "app/VorbelApp.h"
+#include "app/Application.h"
+#include "app/command_line/CommandLine.h"
 
 #include <cstdio>
 #include <cstdlib>

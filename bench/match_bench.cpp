@@ -1,5 +1,6 @@
 // How fast the game does without a window what a player would wait for.
 #include "career/Diary.h"
+#include "platform/random/Uuid.h"
 #include "tools/sim/MatchPlayer.h"
 
 #include <benchmark/benchmark.h>

@@ -17,8 +17,6 @@ using Seconds = std::chrono::duration<double>;
 // 2001-01-01 00:00:00 UTC, in seconds since the system clock's epoch.
 constexpr Seconds referenceDate{978307200.0};
 
-constexpr std::size_t uuidDigits = 32;
-
 double toNumber(std::chrono::system_clock::time_point date) {
     return (std::chrono::duration_cast<Seconds>(date.time_since_epoch()) - referenceDate).count();
 }
@@ -57,22 +55,6 @@ bool isEntry(const ordered_json& value) {
 }
 
 } // namespace
-
-std::string randomUuid(RandomSource& random) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    constexpr std::size_t variants = 4; // the variant digit is one of 8, 9, A, B
-    std::string uuid;
-    for (std::size_t i = 0; i < uuidDigits; ++i) {
-        if (i == 8 || i == 12 || i == 16 || i == 20) {
-            uuid += '-';
-        }
-        const std::size_t digit = i == 12   ? 4
-                                  : i == 16 ? 8 + random.index(variants)
-                                            : random.index(digits.size());
-        uuid += digits[digit];
-    }
-    return uuid;
-}
 
 std::vector<DiaryEntry> decodeDiary(std::string_view json) {
     const ordered_json document = ordered_json::parse(json, nullptr, false);

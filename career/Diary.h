@@ -1,8 +1,6 @@
 // The athlete's diary: the results of the matches that a real-life athlete played.
 #pragma once
 
-#include "platform/random/RandomSource.h"
-
 #include <chrono>
 #include <string>
 #include <string_view>
@@ -17,9 +15,6 @@ struct DiaryEntry {
     int xpGained = 0;                           // experience earned by the match
     bool operator==(const DiaryEntry&) const = default;
 };
-
-// A fresh random UUID (version 4) as 8-4-4-4-12 upper-case hexadecimal digits.
-[[nodiscard]] std::string randomUuid(RandomSource& random);
 
 // The stored form is a JSON array, newest entry first; dates count seconds since the start of 2001, UTC.
 // A blob that is not of that form reads as an empty diary; members of an entry that are unknown are ignored.

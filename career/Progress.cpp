@@ -9,7 +9,7 @@ namespace {
 
 struct Rank {
     int gamesPlayed; // matches from which on it is held
-    std::string_view key;
+    TextKey key;
 };
 
 constexpr std::array ladder{
@@ -26,7 +26,7 @@ const Rank* nextRank(int gamesPlayed) {
 
 } // namespace
 
-std::string_view rankKey(int gamesPlayed) {
+TextKey rankKey(int gamesPlayed) {
     const Rank* next = nextRank(gamesPlayed);
     return next == ladder.begin() ? ladder.front().key : (next - 1)->key;
 }

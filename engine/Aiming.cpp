@@ -1,44 +1,15 @@
-// The human thrower's side of a throw: the aiming tick, the aiming keys and the one action key.
+// The human thrower's side of a throw: the tick, the aiming keys and the one action key.
 #include "engine/GameLogic.h"
 #include "engine/Messages.h"
 
-#include <algorithm>
-#include <array>
-#include <numbers>
-
 namespace vorbel {
 
-namespace {
-
-constexpr double angleStep = 0.05;                  // rad per key press
-constexpr double angleLimit = std::numbers::pi / 4; // rad, to both sides
-constexpr double pitchStep = 0.05;                  // rad per key press
-constexpr double pitchLimit = std::numbers::pi / 3; // rad
-constexpr double lowestPower = 10;                  // percent; the swing turns round beyond it
-constexpr double highestPower = 100;                // percent
-constexpr double releaseJitter = 0.06;              // rad, largest error of a BC1 thrower's release
-constexpr double pointerOpacity = 0.8;
-
-// Percent per tick: how fast the power swings for each sport class.
-constexpr std::array<double, bocciaClassCount> powerSteps{0.85, 0.6, 0.3, 0.6};
-
-double powerStep(BocciaClass sportClass) {
-    return powerSteps[static_cast<std::size_t>(sportClass)];
-}
-
-double clampAngle(double angle) {
-    return std::clamp(angle, -angleLimit, angleLimit);
-}
-
-} // namespace
-
 void GameLogic::startAimingLoop() {
-    timer_ = platform_.mainQueue.repeat(
-        tickPeriod, [this] { platform_.mainQueue.post(lifetime_.whileAlive([this] { tick(); })); });
+    clock_.start([this] { tick(); });
 }
 
 void GameLogic::stopAimingLoop() {
-    timer_.cancel();
+    clock_.stop();
 }
 
 // Physics time is tick time: a throw depends on its aim alone, never on the frame rate.
@@ -52,25 +23,24 @@ void GameLogic::updateAiming() {
     if (aimState == AimState::thrown) {
         checkPhysics();
     } else if (aimState == AimState::aimingPower) {
-        // Not clamped: the power may overshoot by one step, and a throw locked just then uses that value.
-        aimPower += powerStep(playerClass) * powerDirection_;
-        if (aimPower > highestPower || aimPower < lowestPower) {
-            powerDirection_ = -powerDirection_;
+        state_.aimPower += aim::powerStep(playerClass) * state_.powerDirection;
+        if (aim::turnsRound(aimPower)) {
+            state_.powerDirection = -state_.powerDirection;
         }
     }
 }
 
 void GameLogic::moveAimLeft() {
-    turnAim(-angleStep);
+    turnAim(-aim::angleStep);
 }
 void GameLogic::moveAimRight() {
-    turnAim(angleStep);
+    turnAim(aim::angleStep);
 }
 void GameLogic::moveAimUp() {
-    raiseAim(pitchStep);
+    raiseAim(aim::pitchStep);
 }
 void GameLogic::moveAimDown() {
-    raiseAim(-pitchStep);
+    raiseAim(-aim::pitchStep);
 }
 
 bool GameLogic::humanSetsAngle() const {
@@ -79,13 +49,13 @@ bool GameLogic::humanSetsAngle() const {
 
 void GameLogic::turnAim(double angle) {
     if (humanSetsAngle()) {
-        aimAngle = clampAngle(aimAngle + angle);
+        state_.aimAngle = aim::clampAngle(aimAngle + angle);
     }
 }
 
 void GameLogic::raiseAim(double angle) {
-    if (humanSetsAngle() && playerClass != BocciaClass::bc3) {
-        aimPitch = std::clamp(aimPitch + angle, 0.0, pitchLimit);
+    if (humanSetsAngle() && aim::mayRaise(playerClass)) {
+        state_.aimPitch = aim::clampPitch(aimPitch + angle);
     }
 }
 
@@ -93,7 +63,7 @@ void GameLogic::processInput() {
     if (phase == GamePhase::gameOver) {
         tournamentActive ? advanceTournament() : resetMatch();
     } else if (phase == GamePhase::endOver) {
-        currentEnd += 1;
+        state_.currentEnd += 1;
         clearField();
         startNewEnd();
     } else if (!isCurrentTurnAI()) {
@@ -104,36 +74,25 @@ void GameLogic::processInput() {
 void GameLogic::advanceHumanThrow() {
     switch (aimState) {
     case AimState::idle:
-        aimState = AimState::aimingAngle;
+        state_.aimState = AimState::aimingAngle;
         message = messages::aimingHint(language);
-        setPointerVisible(true);
+        balls_.showPointer(true);
         break;
     case AimState::aimingAngle:
-        aimState = AimState::aimingPower;
+        clock_.cancel(); // an aim that the computer had begun is the player's from here on
+        state_.aimState = AimState::aimingPower;
         message = messages::lockPower(language);
         break;
     case AimState::aimingPower:
-        if (playerClass == BocciaClass::bc1) {
-            aimAngle = clampAngle(aimAngle + platform_.random.uniform(-releaseJitter, releaseJitter));
+        beginThrow();
+        if (aim::hasReleaseError(playerClass)) {
+            const double error = platform_.random.uniform(-aim::releaseError, aim::releaseError);
+            state_.aimAngle = aim::clampAngle(aimAngle + error);
         }
         releaseBall();
         break;
     case AimState::thrown:
         break;
-    }
-}
-
-void GameLogic::releaseBall() {
-    aimState = AimState::thrown;
-    ticksSinceThrown_ = 0;
-    message = messages::ballInPlay(language);
-    setPointerVisible(false);
-    throwActiveBall();
-}
-
-void GameLogic::setPointerVisible(bool visible) {
-    if (const Node::Ptr pointer = scene.root->findChild("pointer")) {
-        pointer->opacity = visible ? pointerOpacity : 0;
     }
 }
 

@@ -1,49 +1,25 @@
 // The referee of an end: whether the jack is valid, who throws next, when the end is over.
-#include "engine/Distance.h"
 #include "engine/GameLogic.h"
 #include "engine/Messages.h"
-#include "scene/Ball.h"
-
-#include <algorithm>
-#include <cmath>
 
 namespace vorbel {
 
-namespace {
-
-constexpr double sideLine = 3.0;    // m from the court's middle line
-constexpr double vLineApexZ = -1.5; // m: the V line at the middle of the court
-constexpr double vLineDepth = 2.0;  // m that the line falls back from there to the side lines
-constexpr double startPower = 10.0; // percent, before every throw
-
-} // namespace
-
-bool GameLogic::jackCrossedVLine(const Vec3& position) {
-    const double towardsSide = std::min(std::abs(position.x) / sideLine, 1.0);
-    return position.z <= vLineApexZ - vLineDepth * towardsSide;
-}
-
-bool GameLogic::isOutOfBounds(const Vec3& position) {
-    return std::abs(position.x) > sideLine;
-}
-
 void GameLogic::handleTurnTransition() {
     if (phase == GamePhase::throwingJack) {
-        ++jackThrowAttempts_;
-        const Node::Ptr jack = jackNode();
+        ++state_.jackThrowAttempts;
+        const auto jack = balls_.position().jack;
         // Only the first jack of an end is judged: the second one counts wherever it lies.
-        if (jackThrowAttempts_ == 1 && jack &&
-            (isOutOfBounds(jack->position()) || !jackCrossedVLine(jack->position()))) {
-            passJackToOtherSide(*jack);
+        if (state_.jackThrowAttempts == 1 && jack && !isValidJack(*jack)) {
+            passJackToOtherSide();
             return;
         }
-        phase = GamePhase::playing; // and the side that threw the jack throws the first colour ball
+        state_.phase = GamePhase::playing; // and the side that threw the jack throws the first colour ball
     } else {
-        (currentTurn == BallColor::red ? redBallsLeft : blueBallsLeft) -= 1;
+        (currentTurn == BallColor::red ? state_.redBallsLeft : state_.blueBallsLeft) -= 1;
         repositionJackIfKnockedOut();
         if (redBallsLeft == 0 && blueBallsLeft == 0) {
-            phase = GamePhase::endOver;
-            aimState = AimState::idle;
+            state_.phase = GamePhase::endOver;
+            state_.aimState = AimState::idle;
             calculateScore();
             return;
         }
@@ -55,9 +31,9 @@ void GameLogic::handleTurnTransition() {
     triggerAIIfNeeded();
 }
 
-void GameLogic::passJackToOtherSide(const Node& jack) {
-    scene.root->removeChild(jack);
-    currentTurn = opponent(currentTurn);
+void GameLogic::passJackToOtherSide() {
+    balls_.removeJack();
+    state_.currentTurn = opponent(currentTurn);
     spawnBall();
     resetAim();
     message = messages::jackOut(language, currentTurn);
@@ -65,52 +41,31 @@ void GameLogic::passJackToOtherSide(const Node& jack) {
 }
 
 void GameLogic::resetAim() {
-    aimState = AimState::idle;
-    aimAngle = 0;
-    aimPitch = 0;
-    aimPower = startPower;
+    state_.aimState = AimState::idle;
+    state_.aimAngle = 0;
+    state_.aimPitch = 0;
+    state_.aimPower = aim::startPower;
 }
 
 void GameLogic::determineNextTurn() {
-    if (redBallsLeft == 0 || blueBallsLeft == 0) {
-        currentTurn = redBallsLeft == 0 ? BallColor::blue : BallColor::red;
-        return;
-    }
-    const Node::Ptr jack = jackNode();
-    if (!jack) {
-        currentTurn = BallColor::red;
-        return;
-    }
-    const double red = closest(distancesToJack(BallColor::red, jack->position()));
-    const double blue = closest(distancesToJack(BallColor::blue, jack->position()));
-    // A side without a ball in play throws, red first; then the side that is not closest; a tie is red's.
-    currentTurn = red < blue ? BallColor::blue : BallColor::red;
+    state_.currentTurn = nextToThrow(balls_.position(), state_.ballsLeft());
 }
 
 void GameLogic::repositionJackIfKnockedOut() {
-    const Node::Ptr jack = jackNode();
-    if (jack && isOutOfBounds(jack->position())) {
-        scene.root->removeChild(*jack);
-        scene.root->addChild(makeRestingJack(crossPosition));
-    }
-}
-
-void GameLogic::clearField() {
-    const auto children = scene.root->children();
-    for (const Node::Ptr& node : children) {
-        if (isBall(*node)) {
-            scene.root->removeChild(*node);
-        }
+    const auto jack = balls_.position().jack;
+    if (jack && isOutOfBounds(*jack)) {
+        balls_.removeJack();
+        balls_.place(BallColor::jack, crossPosition);
     }
 }
 
 void GameLogic::startNewEnd() {
-    redBallsLeft = ballsPerSide;
-    blueBallsLeft = ballsPerSide;
-    phase = GamePhase::throwingJack;
-    jackThrowAttempts_ = 0;
-    currentTurn = startingSide(currentEnd);
-    aimState = AimState::idle;
+    state_.redBallsLeft = ballsPerSide;
+    state_.blueBallsLeft = ballsPerSide;
+    state_.phase = GamePhase::throwingJack;
+    state_.jackThrowAttempts = 0;
+    state_.currentTurn = startingSide(currentEnd);
+    dropAim();
     spawnBall();
     message = messages::newEndStart(language, currentEnd, currentTurn);
     triggerAIIfNeeded();

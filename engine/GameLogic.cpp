@@ -8,9 +8,9 @@ GameLogic::GameLogic(const Platform& platform)
     : scene(create3DScene(platform.random)),
       platform_(platform),
       physicsWorld_(scene),
-      throwSound_(platform.audio.systemSound("Pop")),
-      hitSound_(platform.audio.systemSound("Tink")),
-      scoreSound_(platform.audio.systemSound("Glass")) {
+      balls_(scene),
+      sounds_(platform.audio, platform.resources),
+      clock_(platform.mainQueue) {
     redIsAI.setAfterChange([this] {
         dropHumanAim();
         triggerAIIfNeeded();
@@ -35,34 +35,12 @@ bool GameLogic::isCurrentTurnAI() const {
     return currentTurn == BallColor::red ? redIsAI : blueIsAI;
 }
 
-std::string GameLogic::t(std::string_view key) const {
+std::string GameLogic::t(TextKey key) const {
     return std::string(L10n::t(key, language));
 }
 
-std::string GameLogic::t(std::string_view key, std::initializer_list<std::string_view> arguments) const {
+std::string GameLogic::t(TextKey key, std::initializer_list<std::string_view> arguments) const {
     return L10n::fill(L10n::t(key, language), arguments);
-}
-
-Node::Ptr GameLogic::jackNode() const {
-    return scene.root->findChild(nodeName(BallColor::jack));
-}
-
-std::vector<Vec3> GameLogic::ballPositions(BallColor color) const {
-    std::vector<Vec3> positions;
-    for (const Node::Ptr& node : scene.root->children()) {
-        if (node->name == nodeName(color)) {
-            positions.push_back(node->position());
-        }
-    }
-    return positions;
-}
-
-std::vector<double> GameLogic::distancesToJack(BallColor side, const Vec3& jack) const {
-    std::vector<double> distances;
-    for (const Vec3& ball : ballPositions(side)) {
-        distances.push_back(glm::distance(ball, jack));
-    }
-    return distances;
 }
 
 } // namespace vorbel

@@ -2,6 +2,7 @@
 
 #include "career/Tournament.h"
 #include "l10n/L10n.h"
+#include "rules/Scoring.h"
 
 #include <initializer_list>
 #include <string_view>
@@ -18,14 +19,13 @@ struct Sentence {
 };
 
 // The Russian sentence as it stands here, or the table's template of that key in any other language.
-std::string say(AppLanguage language, const Sentence& russian, std::string_view key,
-                Arguments arguments = {}) {
+std::string say(AppLanguage language, const Sentence& russian, TextKey key, Arguments arguments = {}) {
     return language == AppLanguage::ru ? L10n::fill(russian.format, russian.arguments)
                                        : L10n::fill(L10n::t(key, language), arguments);
 }
 
 std::string_view team(AppLanguage language, BallColor side) {
-    return L10n::t(side == BallColor::red ? "team.red" : "team.blue", language);
+    return side == BallColor::red ? L10n::t("team.red", language) : L10n::t("team.blue", language);
 }
 
 std::string_view nominative(BallColor side) {
@@ -90,10 +90,7 @@ std::string endResult(AppLanguage language, const EndResult& result) {
     const std::string red = std::to_string(result.red);
     const std::string blue = std::to_string(result.blue);
     if (result.red > 0 && result.blue > 0) {
-        return language == AppLanguage::ru
-                   ? L10n::fill("Равноудалённые мячи! Красные +%@, Синие +%@.", {red, blue})
-                   : L10n::fill("%@ +%@, %@ +%@",
-                                {team(language, BallColor::red), red, team(language, BallColor::blue), blue});
+        return L10n::fill(L10n::t("end.equidistant.format", language), {red, blue});
     }
     if (result.red == 0 && result.blue == 0) {
         return say(language, {"Ничья в энде!", {}}, "msg.endDraw");
@@ -117,8 +114,7 @@ std::string teamWinMatch(AppLanguage language, BallColor winner) {
 }
 
 std::string matchOver(AppLanguage language, int redScore, int blueScore) {
-    const std::string winner =
-        teamWinMatch(language, redScore > blueScore ? BallColor::red : BallColor::blue);
+    const std::string winner = teamWinMatch(language, vorbel::winner({redScore, blueScore}));
     const std::string red = std::to_string(redScore);
     const std::string blue = std::to_string(blueScore);
     return say(language, {"%@ Счет %@:%@. [ПРОБЕЛ] для новой игры", {winner, red, blue}},

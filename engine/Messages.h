@@ -3,9 +3,9 @@
 // the string table.
 #pragma once
 
-#include "engine/MatchTypes.h"
 #include "l10n/AppLanguage.h"
 #include "l10n/Country.h"
+#include "rules/MatchTypes.h"
 
 #include <string>
 

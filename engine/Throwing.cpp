@@ -1,51 +1,53 @@
-// The waiting ball and its launch.
+// A throw from the waiting ball to the moment when all balls rest.
 #include "engine/GameLogic.h"
-#include "scene/Ball.h"
+#include "engine/Messages.h"
+#include "rules/Settling.h"
 
-#include <cmath>
+#include <glm/geometric.hpp>
 
 namespace vorbel {
 
 namespace {
 
-constexpr double fullSpeed = 5.0;          // m/s at 100 % power
-constexpr double leastRollingSpeed = 1e-4; // m/s; a ball thrown straight up gets no spin
+double speedOf(const Node& node) {
+    return node.body ? glm::length(node.body->velocity) : 0;
+}
 
 } // namespace
 
-Vec3 GameLogic::throwOrigin(BallColor side) {
-    return {side == BallColor::red ? -1.0 : 1.0, restingHeight, -0.5};
+void GameLogic::spawnBall() {
+    balls_.spawn(phase == GamePhase::throwingJack ? BallColor::jack : currentTurn.get(), currentTurn);
 }
 
-void GameLogic::spawnBall() {
-    const Vec3 origin = throwOrigin(currentTurn);
-    const BallColor kind = phase == GamePhase::throwingJack ? BallColor::jack : currentTurn.get();
-    activeBallNode = makeBall(kind, origin, PhysicsBody::Type::kinematic);
-    scene.root->addChild(activeBallNode);
-    if (const Node::Ptr pointer = scene.root->findChild("pointer")) {
-        constexpr double pointerHeight = 0.02;
-        pointer->setPosition({origin.x, pointerHeight, origin.z});
-    }
+void GameLogic::beginThrow() {
+    state_.aimState = AimState::thrown;
+    state_.ticksSinceThrown = 0;
+}
+
+void GameLogic::releaseBall() {
+    message = messages::ballInPlay(language);
+    balls_.showPointer(false);
+    throwActiveBall();
 }
 
 void GameLogic::throwActiveBall() {
-    if (!activeBallNode) {
-        return;
+    if (balls_.launch(launch(state_.aim()))) {
+        sounds_.playThrow();
     }
-    const double speed = aimPower / 100 * fullSpeed;
-    const double horizontal = speed * std::cos(aimPitch);
-    const double sine = std::sin(aimAngle);
-    const double cosine = std::cos(aimAngle);
+}
 
-    auto body = makeBallBody(PhysicsBody::Type::dynamic);
-    body->velocity = {horizontal * sine, speed * std::sin(aimPitch), -horizontal * cosine};
-    if (horizontal > leastRollingSpeed) {
-        // Rolling without slipping from the start, about the axis across the direction of travel.
-        body->angularVelocity = Vec3(-cosine, 0, -sine) * (horizontal / ballRadius);
+void GameLogic::checkPhysics() {
+    ++state_.ticksSinceThrown;
+    if (isThrowOver(state_.ticksSinceThrown, balls_.allSettled())) {
+        balls_.freeze();
+        handleTurnTransition();
     }
-    activeBallNode->body = std::move(body);
-    restart(throwSound_.get());
-    activeBallNode = nullptr;
+}
+
+void GameLogic::physicsWorldDidBegin(const Node& nodeA, const Node& nodeB) {
+    if (isBall(nodeA) && isBall(nodeB) && isAudible(speedOf(nodeA), speedOf(nodeB))) {
+        platform_.mainQueue.post(lifetime_.whileAlive([this] { sounds_.playHit(); }));
+    }
 }
 
 } // namespace vorbel

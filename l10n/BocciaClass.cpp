@@ -8,7 +8,7 @@ namespace {
 
 struct Row {
     std::string_view rawValue;
-    std::string_view descriptionKey;
+    TextKey descriptionKey;
 };
 
 // In the order of BocciaClass.
@@ -32,7 +32,7 @@ std::string_view rawValue(BocciaClass sportClass) {
     return rowOf(sportClass).rawValue;
 }
 
-std::string_view descriptionKey(BocciaClass sportClass) {
+TextKey descriptionKey(BocciaClass sportClass) {
     return rowOf(sportClass).descriptionKey;
 }
 

@@ -1,6 +1,8 @@
 // The sport classes of boccia: who throws by hand or foot, with an assistant, or from a ramp.
 #pragma once
 
+#include "l10n/TextKey.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -20,6 +22,6 @@ extern const std::array<BocciaClass, bocciaClassCount> allBocciaClasses;
 [[nodiscard]] std::optional<BocciaClass> bocciaClassFromRawValue(std::string_view name);
 
 // Key of the class's description in the string table.
-[[nodiscard]] std::string_view descriptionKey(BocciaClass sportClass);
+[[nodiscard]] TextKey descriptionKey(BocciaClass sportClass);
 
 } // namespace vorbel

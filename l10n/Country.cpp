@@ -8,7 +8,7 @@ namespace {
 
 struct Row {
     std::string_view rawValue;
-    std::string_view key;
+    TextKey key;
     std::string_view flagEmoji;
 };
 
@@ -71,7 +71,7 @@ std::string_view rawValue(Country country) {
     return rowOf(country).rawValue;
 }
 
-std::string_view key(Country country) {
+TextKey key(Country country) {
     return rowOf(country).key;
 }
 

@@ -1,6 +1,8 @@
 // The nations that a side can play for.
 #pragma once
 
+#include "l10n/TextKey.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -59,7 +61,7 @@ extern const std::array<Country, countryCount> allCountries;
 [[nodiscard]] std::optional<Country> countryFromRawValue(std::string_view name);
 
 // Key of the country's name in the string table: "country." and the case's name.
-[[nodiscard]] std::string_view key(Country country);
+[[nodiscard]] TextKey key(Country country);
 
 // The flag as two regional-indicator symbols, UTF-8.
 [[nodiscard]] std::string_view flagEmoji(Country country);

@@ -1,13 +1,13 @@
-// The keys of every text of the program, in the order in which each language's file lists them.
+// The keys of every text of the program, in the order in which each language's files list them.
 //
-// A new key: list it here and give it a text in every file of texts/. A key that ends in ".format" is a
-// template; the code fills its placeholders "%@" from left to right, so every language has them in the same
-// number and order.
+// A new key: list it in `extraKeys` and give it a text in every file of extra/. A key that ends in ".format"
+// is a template; the code fills its placeholders "%@" from left to right, so every language has them in the
+// same number and order.
 //
-// A new language: a case in AppLanguage.h with its row in AppLanguage.cpp, a file texts/CODE.h in the form of
-// texts/en.h, and in L10n.cpp one include and one row. Texts that a language lacks are shown in English. A
-// key that is unknown, given twice or out of order, an empty text, or a language listed twice does not
-// compile.
+// A new language: a case in AppLanguage.h with its row in AppLanguage.cpp, files texts/CODE.h and
+// extra/CODE.h in the form of the English ones, and in Texts.cpp and ExtraTexts.cpp one include and one row.
+// Texts of `keys` that a language lacks are shown in English; those of `extraKeys` are complete. A key that
+// is unknown, given twice or out of order, an empty text, or a language listed twice does not compile.
 #pragma once
 
 #include <array>
@@ -15,6 +15,7 @@
 
 namespace vorbel::L10n {
 
+// The texts of the game itself.
 inline constexpr std::array<std::string_view, 113> keys{
     "team.red",
     "team.blue",
@@ -137,5 +138,16 @@ inline constexpr std::array<std::string_view, 113> keys{
     "rules.text",
     "about.text",
 };
+
+// What is said beyond those.
+inline constexpr auto extraKeys = std::to_array<std::string_view>({
+    "end.equidistant.format",
+    "hud.tournament.format",
+    "about.pages",
+
+    "page.boccia.title",
+    "page.boccia.text",
+    "page.licence",
+});
 
 } // namespace vorbel::L10n

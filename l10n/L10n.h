@@ -2,6 +2,7 @@
 #pragma once
 
 #include "l10n/AppLanguage.h"
+#include "l10n/TextKey.h"
 
 #include <initializer_list>
 #include <string>
@@ -9,9 +10,13 @@
 
 namespace vorbel::L10n {
 
-// The text of the key in the language; where that language has none, the English one; for an unknown key the
-// key itself. The result lives as long as the program, or as long as `key` when that is returned.
-[[nodiscard]] std::string_view t(std::string_view key, AppLanguage language);
+// The text of the key in the language; where that language has none, the English one. It lives as long as the
+// program.
+[[nodiscard]] std::string_view t(TextKey key, AppLanguage language);
+
+// The same for a key from stored data. An unknown one shows itself: the result is then `name`, and lives as
+// long as that.
+[[nodiscard]] std::string_view tNamed(std::string_view name, AppLanguage language);
 
 // Puts the arguments in place of the placeholders "%@", left to right. Arguments left over are ignored,
 // placeholders left over stay as they are.

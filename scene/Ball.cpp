@@ -1,5 +1,7 @@
 #include "scene/Ball.h"
 
+#include "rules/BallModel.h"
+
 namespace vorbel {
 
 namespace {
@@ -20,21 +22,25 @@ Color colorOf(BallColor color) {
 
 std::shared_ptr<PhysicsBody> makeBallBody(PhysicsBody::Type type) {
     return std::make_shared<PhysicsBody>(PhysicsBody{.type = type,
-                                                     .mass = 0.2,
-                                                     .friction = 0.8,
-                                                     .rollingFriction = 0.05,
-                                                     .restitution = 0.0, // leather balls do not bounce
-                                                     .damping = 0.4,
-                                                     .angularDamping = 0.4});
+                                                     .mass = ball::mass,
+                                                     .friction = ball::friction,
+                                                     .rollingFriction = ball::rollingFriction,
+                                                     .restitution = ball::restitution,
+                                                     .damping = ball::damping,
+                                                     .angularDamping = ball::damping});
 }
 
 Node::Ptr makeBall(BallColor color, const Vec3& position, PhysicsBody::Type type) {
-    auto ball =
-        std::make_shared<Node>(Geometry{Sphere{ballRadius}, {.diffuse = colorOf(color), .seams = true}});
-    ball->name = nodeName(color);
-    ball->setPosition(position);
-    ball->body = makeBallBody(type);
-    return ball;
+    auto node =
+        std::make_shared<Node>(Geometry{Sphere{ball::radius}, {.diffuse = colorOf(color), .seams = true}});
+    node->name = nodeName(color);
+    node->setPosition(position);
+    node->body = makeBallBody(type);
+    return node;
+}
+
+Node::Ptr makeRestingJack(const Vec3& position) {
+    return makeBall(BallColor::jack, position, PhysicsBody::Type::dynamic);
 }
 
 bool isBall(const Node& node) {

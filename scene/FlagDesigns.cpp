@@ -1,12 +1,12 @@
-// The six designs that the flags on the wall are made of, drawn in the x–y plane and facing +z.
-#include "engine/GameLogic.h"
+#include "scene/FlagDesigns.h"
+
 #include "scene/FlagColors.h"
 
 #include <cmath>
 #include <initializer_list>
 #include <numbers>
 
-namespace vorbel {
+namespace vorbel::arena {
 
 namespace {
 
@@ -58,8 +58,7 @@ Extrusion triangle(bool pointingUp, double radius) {
 
 } // namespace
 
-Node::Ptr GameLogic::makeStripedFlag(std::span<const Color> stripeColors, bool horizontal, double width,
-                                     double height) {
+Node::Ptr makeStripedFlag(std::span<const Color> stripeColors, bool horizontal, double width, double height) {
     auto flag = std::make_shared<Node>();
     const auto count = static_cast<double>(stripeColors.size());
     const Plane stripe{horizontal ? width : width / count, horizontal ? height / count : height};
@@ -73,8 +72,7 @@ Node::Ptr GameLogic::makeStripedFlag(std::span<const Color> stripeColors, bool h
     return flag;
 }
 
-Node::Ptr GameLogic::makeCircleFlag(const Color& background, const Color& circle, double width,
-                                    double height) {
+Node::Ptr makeCircleFlag(const Color& background, const Color& circle, double width, double height) {
     Node::Ptr flag = flagWithField(background, width, height);
     const Cylinder shape{emblemRadius * height, emblemDepth};
     auto disc = std::make_shared<Node>(Geometry{shape, {.diffuse = circle}});
@@ -84,8 +82,8 @@ Node::Ptr GameLogic::makeCircleFlag(const Color& background, const Color& circle
     return flag;
 }
 
-Node::Ptr GameLogic::makeCrossFlag(const Color& background, const Color& crossColor,
-                                   const Color& innerCrossColor, double width, double height) {
+Node::Ptr makeCrossFlag(const Color& background, const Color& crossColor, const Color& innerCrossColor,
+                        double width, double height) {
     Node::Ptr flag = flagWithField(background, width, height);
     flag->addChild(crossBar(width, 0.22 * height, crossColor, firstLayer));
     flag->addChild(crossBar(0.2 * width, height, crossColor, firstLayer));
@@ -94,7 +92,7 @@ Node::Ptr GameLogic::makeCrossFlag(const Color& background, const Color& crossCo
     return flag;
 }
 
-Node::Ptr GameLogic::makeCantonFlag(const Color& fieldColor, double width, double height) {
+Node::Ptr makeCantonFlag(const Color& fieldColor, double width, double height) {
     Node::Ptr flag = flagWithField(fieldColor, width, height);
     const Node::Ptr canton = makeCrossFlag(cantonNavy, white, crossRed, width / 2, height / 2);
     canton->setPosition({-width / 4, height / 4, cantonLayer});
@@ -102,7 +100,7 @@ Node::Ptr GameLogic::makeCantonFlag(const Color& fieldColor, double width, doubl
     return flag;
 }
 
-Node::Ptr GameLogic::makeKoreaFlag(double width, double height) {
+Node::Ptr makeKoreaFlag(double width, double height) {
     Node::Ptr flag = flagWithField(white, width, height);
     const double radius = emblemRadius * height;
     flag->addChild(layer(halfDisc(radius, 45, 225), crossRed, {0, 0, secondLayer}));
@@ -110,7 +108,7 @@ Node::Ptr GameLogic::makeKoreaFlag(double width, double height) {
     return flag;
 }
 
-Node::Ptr GameLogic::makeStarFlag(double width, double height) {
+Node::Ptr makeStarFlag(double width, double height) {
     Node::Ptr flag = flagWithField(white, width, height);
     const double barHeight = 0.14 * height;
     const double barY = 0.5 * height - 0.7 * barHeight;
@@ -123,4 +121,4 @@ Node::Ptr GameLogic::makeStarFlag(double width, double height) {
     return flag;
 }
 
-} // namespace vorbel
+} // namespace vorbel::arena

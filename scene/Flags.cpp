@@ -1,12 +1,14 @@
-// The wall of flags above the far part of the court, one for every country. Drawn without emblems and with
-// equal stripes: it is read from ten metres away.
-#include "engine/GameLogic.h"
+#include "scene/Flags.h"
+
+#include "l10n/Country.h"
 #include "scene/FlagColors.h"
+#include "scene/FlagDesigns.h"
 
 #include <algorithm>
 #include <variant>
+#include <vector>
 
-namespace vorbel {
+namespace vorbel::arena {
 
 namespace {
 
@@ -113,21 +115,19 @@ Design designOf(Country country) {
 
 struct FlagMaker {
     Node::Ptr operator()(const Stripes& stripes) const {
-        return GameLogic::makeStripedFlag(stripes.colors, stripes.horizontal, flagWidth, flagHeight);
+        return makeStripedFlag(stripes.colors, stripes.horizontal, flagWidth, flagHeight);
     }
     Node::Ptr operator()(const Disc& disc) const {
-        return GameLogic::makeCircleFlag(disc.field, disc.disc, flagWidth, flagHeight);
+        return makeCircleFlag(disc.field, disc.disc, flagWidth, flagHeight);
     }
     Node::Ptr operator()(Cross /*design*/) const {
-        return GameLogic::makeCrossFlag(navy, white, crossRed, flagWidth, flagHeight);
+        return makeCrossFlag(navy, white, crossRed, flagWidth, flagHeight);
     }
     Node::Ptr operator()(const Canton& canton) const {
-        return GameLogic::makeCantonFlag(canton.field, flagWidth, flagHeight);
+        return makeCantonFlag(canton.field, flagWidth, flagHeight);
     }
-    Node::Ptr operator()(DividedDisc /*design*/) const {
-        return GameLogic::makeKoreaFlag(flagWidth, flagHeight);
-    }
-    Node::Ptr operator()(Star /*design*/) const { return GameLogic::makeStarFlag(flagWidth, flagHeight); }
+    Node::Ptr operator()(DividedDisc /*design*/) const { return makeKoreaFlag(flagWidth, flagHeight); }
+    Node::Ptr operator()(Star /*design*/) const { return makeStarFlag(flagWidth, flagHeight); }
 };
 
 // Rows of nine from below; a row of one hangs centred.
@@ -144,7 +144,7 @@ Vec3 wallPosition(std::size_t index) {
 
 } // namespace
 
-void GameLogic::addFlags(Scene& scene) {
+void addFlags(Scene& scene) {
     for (const Country country : allCountries) {
         const Node::Ptr flag = std::visit(FlagMaker{}, designOf(country));
         flag->setPosition(wallPosition(static_cast<std::size_t>(country)));
@@ -152,4 +152,4 @@ void GameLogic::addFlags(Scene& scene) {
     }
 }
 
-} // namespace vorbel
+} // namespace vorbel::arena

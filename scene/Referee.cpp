@@ -1,9 +1,8 @@
-// The referee beside the left side line, one arm raised.
-#include "engine/GameLogic.h"
+#include "scene/Referee.h"
 
 #include <numbers>
 
-namespace vorbel {
+namespace vorbel::arena {
 
 namespace {
 
@@ -36,7 +35,7 @@ Node::Ptr head() {
 
 } // namespace
 
-Node::Ptr GameLogic::makeReferee(double courtWidth, double courtLength) {
+Node::Ptr makeReferee(double courtWidth, double courtLength) {
     constexpr Capsule leg{0.0605, 0.374};
     constexpr double raised = 9 * std::numbers::pi / 10;
     constexpr double hanging = -std::numbers::pi / 10;
@@ -56,4 +55,4 @@ Node::Ptr GameLogic::makeReferee(double courtWidth, double courtLength) {
     return figure;
 }
 
-} // namespace vorbel
+} // namespace vorbel::arena

@@ -1,16 +1,9 @@
-// Two banks of stepped stands along the court, filled with cut-out spectators.
-#include "engine/GameLogic.h"
+#include "scene/Stands.h"
 
 #include <array>
 #include <numbers>
 
-namespace vorbel {
-
-// A picture by its resource name, with its width divided by its height.
-struct SpectatorSprite {
-    std::string_view picture;
-    double aspectRatio;
-};
+namespace vorbel::arena {
 
 namespace {
 
@@ -65,7 +58,7 @@ void addSpectator(Scene& scene, const Bank& bank, int row, int place, RandomSour
     const double dx = random.uniform(-0.05, 0.05);
     const double dz = random.uniform(-0.12, 0.12);
 
-    const Node::Ptr spectator = GameLogic::makeSpectatorBillboard(sprite, height);
+    const Node::Ptr spectator = makeSpectatorBillboard(sprite, height);
     const double z = -bank.courtLength + bank.courtLength * (place + 0.5) / spectatorsPerRow + dz;
     spectator->setPosition({bank.rowX(row) + dx, rowCentreY(row) + rowHeight / 2 + height / 2, z});
     spectator->setEulerAngles({0, bank.facingCourt(), 0});
@@ -74,7 +67,7 @@ void addSpectator(Scene& scene, const Bank& bank, int row, int place, RandomSour
 
 } // namespace
 
-void GameLogic::addStands(Scene& scene, double courtWidth, double courtLength, RandomSource& random) {
+void addStands(Scene& scene, double courtWidth, double courtLength, RandomSource& random) {
     for (const double side : {1.0, -1.0}) {
         const Bank bank{side, courtWidth, courtLength};
         for (int row = 0; row < rowsPerSide; ++row) {
@@ -86,9 +79,9 @@ void GameLogic::addStands(Scene& scene, double courtWidth, double courtLength, R
     }
 }
 
-Node::Ptr GameLogic::makeSpectatorBillboard(const SpectatorSprite& sprite, double height) {
+Node::Ptr makeSpectatorBillboard(const SpectatorSprite& sprite, double height) {
     const Material material{.picture = std::string(sprite.picture), .doubleSided = true, .unlit = true};
     return std::make_shared<Node>(Geometry{Plane{sprite.aspectRatio * height, height}, material});
 }
 
-} // namespace vorbel
+} // namespace vorbel::arena

@@ -7,7 +7,7 @@ namespace vorbel {
 
 namespace {
 
-// Points. What a desktop puts above a window to move it by, and how much of its length a hand needs.
+// What a desktop puts above a window to move it by, and how much of its length a hand needs, in points.
 constexpr int titleBarHeight = 40;
 constexpr int gripWidth = 100;
 

@@ -1,5 +1,5 @@
-// Full screen without the desktop's own full-screen mode: the window loses its decoration and covers the
-// screen.
+// Full screen without the desktop's own full-screen mode:
+// the window loses its decoration and covers the screen.
 #pragma once
 
 #include "app/shell/WindowFrame.h"

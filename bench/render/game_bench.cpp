@@ -1,7 +1,7 @@
 #include "bench/render/game_bench.h"
 
-#include "app/CommandLine.h"
-#include "app/VorbelApp.h"
+#include "app/Application.h"
+#include "app/command_line/CommandLine.h"
 #include "bench/render/Figures.h"
 
 #include <QCoreApplication>

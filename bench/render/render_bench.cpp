@@ -1,5 +1,5 @@
 // How fast the arena is drawn. Prints one table; needs a display, a virtual one will do.
-#include "app/Display.h"
+#include "app/window/Display.h"
 #include "bench/render/Figures.h"
 #include "bench/render/game_bench.h"
 #include "bench/render/window_bench.h"

@@ -1,10 +1,12 @@
 #include "bench/render/window_bench.h"
 
-#include "app/ContentView.h"
-#include "app/Display.h"
+#include "app/window/ContentView.h"
+#include "app/window/Display.h"
 #include "bench/render/Figures.h"
 #include "platform/runloop/QtMainQueue.h"
 #include "platform/store/MemoryDefaults.h"
+#include "rules/BallModel.h"
+#include "rules/CourtGeometry.h"
 #include "scene/Ball.h"
 
 #include <QCoreApplication>
@@ -88,9 +90,9 @@ private:
             const Node::Ptr& ball = balls_[n];
             const int i = static_cast<int>(n);
             const int column = balls_.size() == 1 ? 0 : i - static_cast<int>(balls_.size()) / 2;
-            ball->setPosition({0.3 * column, restingHeight, -0.5});
+            ball->setPosition({0.3 * column, court::restingHeight, -0.5});
             ball->body->velocity = {-0.04 * column, 0, -2.2 - 0.25 * ((5 * i) % places)};
-            ball->body->angularVelocity = {ball->body->velocity.z / ballRadius, 0, 0};
+            ball->body->angularVelocity = {ball->body->velocity.z / ball::radius, 0, 0};
         }
     }
 
@@ -134,7 +136,7 @@ int measureWindow(const Resources& resources) {
     if (window == nullptr) {
         return 1;
     }
-    view.setMenuScreen(MenuScreen::hidden);
+    view.openMenu().setMenuScreen(MenuScreen::hidden);
     view.appear();
     run(*window, false, [] {});
 
@@ -151,7 +153,7 @@ int measureWindow(const Resources& resources) {
     std::vector<double> switches;
     for (const AppLanguage language : {AppLanguage::de, AppLanguage::en, AppLanguage::ja, AppLanguage::en}) {
         start = Moment::now();
-        view.setSelectedLanguage(language);
+        view.settings()->setSelectedLanguage(language);
         QEventLoop untilShown;
         QObject::connect(window, &QQuickWindow::frameSwapped, &untilShown, &QEventLoop::quit,
                          Qt::QueuedConnection);

@@ -47,7 +47,7 @@ inline constexpr auto ar = std::to_array<Text>({
     {"menu.play", "العب"},
     {"menu.sportClass", "الفئة الرياضية"},
     {"menu.back", "رجوع"},
-    {"menu.isRealAthlete", "أمارس الرياضة في الواقع"},
+    {"menu.isRealAthlete", "رياضي في الحياة الواقعية"},
     {"menu.diary", "يوميات الرياضي"},
 
     {"diary.totalXP.format", "نقاط الخبرة: %@"},
@@ -70,8 +70,8 @@ inline constexpr auto ar = std::to_array<Text>({
     {"rank.thirdRank", "الدرجة الثالثة"},
     {"rank.secondRank", "الدرجة الثانية"},
     {"rank.firstRank", "الدرجة الأولى"},
-    {"rank.cms", "مرشح لأستاذ الرياضة"},
-    {"rank.ms", "أستاذ الرياضة"},
+    {"rank.cms", "مرشح لأستاذ في الرياضة"},
+    {"rank.ms", "أستاذ في الرياضة"},
 
     {"msg.initial", "اضغط [المسافة] لبدء التصويب"},
     {"msg.aimingHint", "صوّب بالأسهم [→][←] و[↑][↓]. [المسافة] للتأكيد."},
@@ -150,7 +150,7 @@ inline constexpr auto ar = std::to_array<Text>({
                    "لعبة بوتشيا ثلاثية الأبعاد، صُنعت باستخدام Qt وOpenGL وBullet وSDL.\n"
                    "\n"
                    "ومن صنّاع VORBEL أيضًا:\n"
-                   "· محاكي المباريات vorbel-sim — خصوم آليون يلعبون مباريات كاملة من دون نافذة\n"
+                   "· محاكي المباريات vorbel-sim — خصوم آليون يلعبون مباريات كاملة من دون رسوميات\n"
                    "· الشيفرة المصدرية للعبة VORBEL — كُتبت لتُقرأ، لمن يحب من اللاعبين أن يرى كيف تعمل"},
 });
 

@@ -22,7 +22,7 @@ inline constexpr auto de = std::to_array<Text>({
     {"label.end.format", "End %@ von 4"},
     {"label.playingAs.format", "Team: %@ · Klasse %@"},
     {"label.rampHint", "Rampe: Ball bleibt am Boden, [↑][↓] ohne Funktion"},
-    {"label.aiDifficulty", "KI-Schwierigkeit"},
+    {"label.aiDifficulty", "KI-Stärke"},
     {"label.throwPower", "Wurfstärke"},
     {"label.aiToggle", "KI"},
 
@@ -46,7 +46,7 @@ inline constexpr auto de = std::to_array<Text>({
     {"menu.play", "Spielen"},
     {"menu.sportClass", "Startklasse"},
     {"menu.back", "Zurück"},
-    {"menu.isRealAthlete", "Im echten Leben Sportler/in"},
+    {"menu.isRealAthlete", "Ich bin auch im echten Leben Sportler/-in"},
     {"menu.diary", "Sporttagebuch"},
 
     {"diary.totalXP.format", "Erfahrung (XP): %@"},
@@ -82,7 +82,7 @@ inline constexpr auto de = std::to_array<Text>({
     {"msg.endWon.format", "%@ gewinnt das End! Punkte: %@."},
     {"msg.endDraw", "Gleichstand in diesem End!"},
     {"msg.matchDraw", "Das Spiel endet unentschieden!"},
-    {"msg.teamWinMatch.format", "%@ GEWINNT DAS SPIEL!"},
+    {"msg.teamWinMatch.format", "%@ gewinnt das Spiel!"},
     {"msg.matchOver.format", "%@ Endstand %@:%@. [LEERTASTE] für ein neues Spiel"},
     {"msg.nextEndPrompt.format", "%@ [LEERTASTE] für das nächste End"},
     {"msg.newEndStart.format", "End %@ beginnt. %@ ist dran. [LEERTASTE] zum Zielen"},
@@ -90,9 +90,9 @@ inline constexpr auto de = std::to_array<Text>({
     {"msg.tieBreak.format",
      "Gleichstand! Zusatz-End %@: Der Jackball liegt in der Mitte. %@ ist dran. [LEERTASTE] zum Zielen"},
     {"msg.aiAiming.format", "KI (%@) zielt …"},
-    {"msg.tournamentRound.format", "Turnierrunde %@/%@! Gegner: %@ (%@). [LEERTASTE] zum Zielen"},
+    {"msg.tournamentRound.format", "Turnier, Runde %@ von %@! Gegner: %@ (%@). [LEERTASTE] zum Zielen"},
     {"msg.tournamentEliminated.format",
-     "Turnier beendet: ausgeschieden in Runde %@/%@. [LEERTASTE] für ein neues Spiel"},
+     "Turnier beendet: ausgeschieden in Runde %@ von %@. [LEERTASTE] für ein neues Spiel"},
     {"msg.tournamentChampion.format",
      "TURNIERSIEG! Du hast alle %@ Runden gewonnen! [LEERTASTE] für ein neues Spiel"},
 
@@ -154,7 +154,7 @@ inline constexpr auto de = std::to_array<Text>({
      "Ein 3D-Boccia-Spiel, entstanden mit Qt, OpenGL, Bullet und SDL.\n"
      "\n"
      "Ebenfalls vom VORBEL-Team:\n"
-     "· vorbel-sim – der Spielsimulator: Computergegner tragen ganze Spiele aus, ohne Fenster\n"
+     "· vorbel-sim – der Spielsimulator: Computergegner tragen ganze Spiele aus, ohne Grafik\n"
      "· der Quellcode von VORBEL – zum Lesen geschrieben, für alle, die gern sehen, wie es funktioniert"},
 });
 

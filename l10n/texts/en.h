@@ -151,7 +151,7 @@ inline constexpr auto en = std::to_array<Text>({
      "A 3D boccia game made with Qt, OpenGL, Bullet and SDL.\n"
      "\n"
      "Also from the makers of VORBEL:\n"
-     "· vorbel-sim — the match simulator: computer opponents play whole matches, without a window\n"
+     "· vorbel-sim — the match simulator: computer opponents play whole matches, without graphics\n"
      "· the VORBEL source code — written to be read, for players who like to see how it works"},
 });
 

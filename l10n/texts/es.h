@@ -60,7 +60,7 @@ inline constexpr auto es = std::to_array<Text>({
      "Parálisis cerebral, lanza con la mano o el pie. Se permite un asistente, solo para estabilizar la silla de ruedas y entregar la bola."},
     {"bc.desc.bc2", "Parálisis cerebral, nivel funcional superior al de BC1. No se permite asistente."},
     {"bc.desc.bc3",
-     "Deficiencias más graves (cualquier diagnóstico), lanza con una rampa (canaleta) y la ayuda de un asistente en la pista."},
+     "Las deficiencias más graves (cualquier diagnóstico), lanza con una rampa (canaleta) y la ayuda de un asistente en la pista."},
     {"bc.desc.bc4",
      "Deficiencias motoras graves no causadas por parálisis cerebral (por ejemplo, distrofia muscular). Sin rampa ni asistente."},
 
@@ -82,17 +82,17 @@ inline constexpr auto es = std::to_array<Text>({
     {"msg.endWon.format", "¡%@ gana el parcial! Puntos: %@."},
     {"msg.endDraw", "¡Empate en el parcial!"},
     {"msg.matchDraw", "¡Empate en el partido!"},
-    {"msg.teamWinMatch.format", "¡%@ GANA EL PARTIDO!"},
-    {"msg.matchOver.format", "%@ Resultado %@:%@. [ESPACIO] para un nuevo partido"},
+    {"msg.teamWinMatch.format", "¡%@ gana el partido!"},
+    {"msg.matchOver.format", "%@ Resultado %@-%@. [ESPACIO] para un nuevo partido"},
     {"msg.nextEndPrompt.format", "%@ [ESPACIO] para el siguiente parcial"},
     {"msg.newEndStart.format", "Comienza el parcial %@. Turno: %@. [ESPACIO] para apuntar"},
     {"msg.jackOut.format", "¡Jack fuera! El turno pasa a %@. [ESPACIO] para apuntar"},
     {"msg.tieBreak.format",
      "¡Partido empatado! Parcial de desempate %@: jack en el centro. Turno: %@. [ESPACIO] para apuntar"},
     {"msg.aiAiming.format", "La IA (%@) está apuntando..."},
-    {"msg.tournamentRound.format", "¡Torneo, ronda %@/%@! Rival: %@ (%@). [ESPACIO] para apuntar"},
+    {"msg.tournamentRound.format", "¡Torneo, ronda %@ de %@! Rival: %@ (%@). [ESPACIO] para apuntar"},
     {"msg.tournamentEliminated.format",
-     "Fin del torneo: eliminación en la ronda %@/%@. [ESPACIO] para un nuevo partido"},
+     "Fin del torneo: eliminación en la ronda %@ de %@. [ESPACIO] para un nuevo partido"},
     {"msg.tournamentChampion.format",
      "¡VICTORIA EN EL TORNEO! ¡Has ganado las %@ rondas! [ESPACIO] para un nuevo partido"},
 
@@ -154,7 +154,7 @@ inline constexpr auto es = std::to_array<Text>({
      "Un juego de boccia en 3D hecho con Qt, OpenGL, Bullet y SDL.\n"
      "\n"
      "También de los creadores de VORBEL:\n"
-     "· vorbel-sim — el simulador de partidos: rivales controlados por la IA juegan partidos enteros, sin ventana\n"
+     "· vorbel-sim — el simulador de partidos: rivales controlados por la IA juegan partidos enteros, sin gráficos\n"
      "· el código fuente de VORBEL — escrito para ser leído, para quienes disfrutan viendo cómo funciona"},
 });
 

@@ -79,21 +79,21 @@ inline constexpr auto fr = std::to_array<Text>({
     {"msg.aimingHint", "Flèches [←][→] et [↑][↓] pour viser. [ESPACE] pour valider."},
     {"msg.lockPower", "[ESPACE] Fixer la force du lancer"},
     {"msg.ballInPlay", "Balle en jeu…"},
-    {"msg.turn.format", "À %@ de lancer. [ESPACE] pour viser"},
-    {"msg.endWon.format", "%@ remporte la manche ! Points : %@."},
+    {"msg.turn.format", "Au tour du camp %@. [ESPACE] pour viser"},
+    {"msg.endWon.format", "Le camp %@ remporte la manche ! Points : %@."},
     {"msg.endDraw", "Égalité dans cette manche !"},
     {"msg.matchDraw", "Match nul !"},
-    {"msg.teamWinMatch.format", "%@ REMPORTE LE MATCH !"},
-    {"msg.matchOver.format", "%@ Score %@:%@. [ESPACE] pour une nouvelle partie"},
+    {"msg.teamWinMatch.format", "Le camp %@ remporte le match !"},
+    {"msg.matchOver.format", "%@ Score %@-%@. [ESPACE] pour une nouvelle partie"},
     {"msg.nextEndPrompt.format", "%@ [ESPACE] pour la manche suivante"},
-    {"msg.newEndStart.format", "Début de la manche %@. À %@ de lancer. [ESPACE] pour viser"},
-    {"msg.jackOut.format", "Le jack est sorti ! La main passe à %@. [ESPACE] pour viser"},
+    {"msg.newEndStart.format", "Début de la manche %@. Au tour du camp %@. [ESPACE] pour viser"},
+    {"msg.jackOut.format", "Le jack est sorti ! Au tour du camp %@. [ESPACE] pour viser"},
     {"msg.tieBreak.format",
-     "Égalité ! Manche supplémentaire %@ : jack placé au centre. À %@ de lancer. [ESPACE] pour viser"},
+     "Égalité ! Manche supplémentaire %@ : jack placé au centre. Au tour du camp %@. [ESPACE] pour viser"},
     {"msg.aiAiming.format", "L’IA (%@) vise…"},
-    {"msg.tournamentRound.format", "Tournoi, tour %@/%@ ! Adversaire : %@ (%@). [ESPACE] pour viser"},
+    {"msg.tournamentRound.format", "Tournoi, tour %@ sur %@ ! Adversaire : %@ (%@). [ESPACE] pour viser"},
     {"msg.tournamentEliminated.format",
-     "Tournoi terminé : élimination au tour %@/%@. [ESPACE] pour une nouvelle partie"},
+     "Tournoi terminé : élimination au tour %@ sur %@. [ESPACE] pour une nouvelle partie"},
     {"msg.tournamentChampion.format",
      "VICTOIRE AU TOURNOI ! Vous avez gagné les %@ tours ! [ESPACE] pour une nouvelle partie"},
 
@@ -155,7 +155,7 @@ inline constexpr auto fr = std::to_array<Text>({
      "Un jeu de boccia en 3D créé avec Qt, OpenGL, Bullet et SDL.\n"
      "\n"
      "Également par l’équipe VORBEL :\n"
-     "· vorbel-sim — le simulateur de matchs : l’ordinateur joue des matchs entiers contre lui-même, sans fenêtre\n"
+     "· vorbel-sim — le simulateur de matchs : l’ordinateur joue des matchs entiers contre lui-même, sans graphismes\n"
      "· le code source de VORBEL — écrit pour être lu, à l’intention des curieux qui veulent voir comment tout fonctionne"},
 });
 

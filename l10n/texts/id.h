@@ -13,16 +13,16 @@ inline constexpr auto id = std::to_array<Text>({
 
     {"label.score", "Skor:"},
     {"label.ballsLeft", "Bola:"},
-    {"label.end", "Babak"},
+    {"label.end", "End"},
 
     {"menu.matchResult", "Hasil Pertandingan"},
-    {"menu.nextRound", "Ronde Berikutnya"},
+    {"menu.nextRound", "Babak Berikutnya"},
     {"menu.mainMenu", "Menu Utama"},
 
-    {"label.end.format", "Babak %@ dari 4"},
-    {"label.playingAs.format", "Membela: %@ · Kelas %@"},
+    {"label.end.format", "End %@ dari 4"},
+    {"label.playingAs.format", "Mewakili: %@ · Kelas %@"},
     {"label.rampHint", "Ramp: bola menggelinding di lantai, [↑][↓] nonaktif"},
-    {"label.aiDifficulty", "Kesulitan AI"},
+    {"label.aiDifficulty", "Tingkat kesulitan AI"},
     {"label.throwPower", "Kekuatan lemparan"},
     {"label.aiToggle", "AI"},
 
@@ -42,7 +42,7 @@ inline constexpr auto id = std::to_array<Text>({
     {"menu.rules", "Peraturan"},
     {"menu.about", "Tentang"},
     {"menu.exit", "Keluar"},
-    {"menu.chooseCountry", "Anda membela negara mana?"},
+    {"menu.chooseCountry", "Anda mewakili negara mana?"},
     {"menu.play", "Main"},
     {"menu.sportClass", "Kelas Klasifikasi"},
     {"menu.back", "Kembali"},
@@ -61,9 +61,9 @@ inline constexpr auto id = std::to_array<Text>({
     {"bc.desc.bc2",
      "Palsi serebral, tingkat fungsional lebih tinggi daripada BC1. Asisten tidak diperbolehkan."},
     {"bc.desc.bc3",
-     "Gangguan paling berat (diagnosis apa pun), melempar dengan ramp (bidang luncur) dibantu asisten di lapangan."},
+     "Disabilitas paling berat (diagnosis apa pun), melempar dengan ramp (bidang luncur) dibantu asisten di lapangan."},
     {"bc.desc.bc4",
-     "Gangguan motorik berat yang bukan akibat palsi serebral (misalnya distrofi otot). Tanpa ramp dan tanpa asisten."},
+     "Disabilitas motorik berat yang bukan akibat palsi serebral (misalnya distrofi otot). Tanpa ramp dan tanpa asisten."},
 
     {"rank.novice", "Pemula"},
     {"rank.thirdYouth", "Junior Tingkat 3"},
@@ -80,22 +80,22 @@ inline constexpr auto id = std::to_array<Text>({
     {"msg.lockPower", "[SPASI] Kunci kekuatan lemparan"},
     {"msg.ballInPlay", "Bola sedang bergulir..."},
     {"msg.turn.format", "Giliran %@. [SPASI] untuk membidik"},
-    {"msg.endWon.format", "%@ memenangi babak ini! Poin: %@."},
-    {"msg.endDraw", "Babak ini seri!"},
+    {"msg.endWon.format", "%@ memenangi end ini! Poin: %@."},
+    {"msg.endDraw", "End ini seri!"},
     {"msg.matchDraw", "Pertandingan seri!"},
-    {"msg.teamWinMatch.format", "%@ MEMENANGI LAGA!"},
-    {"msg.matchOver.format", "%@ Skor %@:%@. [SPASI] untuk permainan baru"},
-    {"msg.nextEndPrompt.format", "%@ [SPASI] untuk babak berikutnya"},
-    {"msg.newEndStart.format", "Babak %@ dimulai. Giliran %@. [SPASI] untuk membidik"},
+    {"msg.teamWinMatch.format", "%@ memenangi pertandingan!"},
+    {"msg.matchOver.format", "%@ Skor %@-%@. [SPASI] untuk permainan baru"},
+    {"msg.nextEndPrompt.format", "%@ [SPASI] untuk end berikutnya"},
+    {"msg.newEndStart.format", "End %@ dimulai. Giliran %@. [SPASI] untuk membidik"},
     {"msg.jackOut.format", "Bola jack keluar! Giliran beralih ke %@. [SPASI] untuk membidik"},
     {"msg.tieBreak.format",
-     "Skor imbang! Babak tambahan (babak %@): bola jack di tengah. Giliran %@. [SPASI] untuk membidik"},
+     "Skor imbang! End tambahan (end %@): bola jack di tengah. Giliran %@. [SPASI] untuk membidik"},
     {"msg.aiAiming.format", "AI (%@) sedang membidik..."},
-    {"msg.tournamentRound.format", "Turnamen ronde %@/%@! Lawan: %@ (%@). [SPASI] untuk membidik"},
+    {"msg.tournamentRound.format", "Turnamen, babak %@ dari %@! Lawan: %@ (%@). [SPASI] untuk membidik"},
     {"msg.tournamentEliminated.format",
-     "Turnamen usai: tersingkir di ronde %@/%@. [SPASI] untuk permainan baru"},
+     "Turnamen usai: tersingkir di babak %@ dari %@. [SPASI] untuk permainan baru"},
     {"msg.tournamentChampion.format",
-     "JUARA TURNAMEN! Anda memenangi semua %@ ronde! [SPASI] untuk permainan baru"},
+     "JUARA TURNAMEN! Anda memenangi semua %@ babak! [SPASI] untuk permainan baru"},
 
     {"country.france", "Prancis"},
     {"country.germany", "Jerman"},
@@ -138,11 +138,11 @@ inline constexpr auto id = std::to_array<Text>({
     {"rules.text",
      "Tujuannya adalah melempar bola berwarna sedekat mungkin ke bola putih (bola jack).\n"
      "\n"
-     "1. Hak memulai babak ditentukan: satu tim melempar bola jack putih, lalu bola berwarna pertamanya.\n"
+     "1. Hak memulai end ditentukan: satu tim melempar bola jack putih, lalu bola berwarna pertamanya.\n"
      "2. Tim yang bolanya saat ini BUKAN yang terdekat dengan bola jack melempar berikutnya.\n"
-     "3. Setiap tim memiliki 6 bola per babak.\n"
-     "4. Setelah semua bola dilempar, babak berakhir: tim yang bolanya lebih dekat ke bola jack daripada bola terbaik lawan mendapat satu poin untuk setiap bola tersebut.\n"
-     "5. Satu pertandingan terdiri dari 4 babak. Jika skor imbang setelah pertandingan, dimainkan babak tambahan, dan bola jack tidak dilempar, melainkan diletakkan di tengah oleh wasit.\n"
+     "3. Setiap tim memiliki 6 bola per end.\n"
+     "4. Setelah semua bola dilempar, end berakhir: tim yang bolanya lebih dekat ke bola jack daripada bola terbaik lawan mendapat satu poin untuk setiap bola tersebut.\n"
+     "5. Satu pertandingan terdiri dari 4 end. Jika skor imbang setelah pertandingan, dimainkan end tambahan, dan bola jack tidak dilempar, melainkan diletakkan di tengah oleh wasit.\n"
      "\n"
      "Kontrol:\n"
      "[SPASI] — mulai membidik / kunci sudut / lempar.\n"
@@ -155,7 +155,7 @@ inline constexpr auto id = std::to_array<Text>({
      "Permainan boccia 3D yang dibuat dengan Qt, OpenGL, Bullet, dan SDL.\n"
      "\n"
      "Karya lain dari tim VORBEL:\n"
-     "· vorbel-sim — simulator pertandingan: lawan komputer memainkan pertandingan penuh tanpa jendela\n"
+     "· vorbel-sim — simulator pertandingan: lawan komputer memainkan pertandingan penuh tanpa grafis\n"
      "· kode sumber VORBEL — ditulis untuk dibaca, bagi pemain yang ingin tahu cara kerjanya"},
 });
 

@@ -13,7 +13,7 @@ inline constexpr auto it = std::to_array<Text>({
 
     {"label.score", "Punti:"},
     {"label.ballsLeft", "Bocce:"},
-    {"label.end", "Parz."},
+    {"label.end", "Parziale"},
 
     {"menu.matchResult", "Risultato partita"},
     {"menu.nextRound", "Prossimo turno"},
@@ -61,7 +61,7 @@ inline constexpr auto it = std::to_array<Text>({
     {"bc.desc.bc2",
      "Paralisi cerebrale, livello funzionale superiore a quello della BC1. Assistente non ammesso."},
     {"bc.desc.bc3",
-     "Disabilità più gravi (qualsiasi diagnosi), lancio con una rampa (scivolo) e il supporto di un assistente in campo."},
+     "Le disabilità più gravi (qualsiasi diagnosi), lancio con una rampa (scivolo) e il supporto di un assistente in campo."},
     {"bc.desc.bc4",
      "Gravi disabilità motorie non dovute a paralisi cerebrale (per esempio distrofia muscolare). Senza rampa e senza assistente."},
 
@@ -79,23 +79,23 @@ inline constexpr auto it = std::to_array<Text>({
     {"msg.aimingHint", "Frecce [←][→] e [↑][↓] per mirare. [SPAZIO] per confermare."},
     {"msg.lockPower", "[SPAZIO] Fissa la forza del lancio"},
     {"msg.ballInPlay", "Boccia in gioco..."},
-    {"msg.turn.format", "%@ al lancio. [SPAZIO] per mirare"},
+    {"msg.turn.format", "Tocca a %@. [SPAZIO] per mirare"},
     {"msg.endWon.format", "%@ vince il parziale! Punti: %@."},
     {"msg.endDraw", "Parziale in parità!"},
     {"msg.matchDraw", "Partita in parità!"},
-    {"msg.teamWinMatch.format", "%@ VINCE LA PARTITA!"},
-    {"msg.matchOver.format", "%@ Risultato %@:%@. [SPAZIO] per una nuova partita"},
+    {"msg.teamWinMatch.format", "%@ vince la partita!"},
+    {"msg.matchOver.format", "%@ Risultato %@-%@. [SPAZIO] per una nuova partita"},
     {"msg.nextEndPrompt.format", "%@ [SPAZIO] per il prossimo parziale"},
-    {"msg.newEndStart.format", "Inizia il parziale %@. %@ al lancio. [SPAZIO] per mirare"},
-    {"msg.jackOut.format", "Il jack è uscito! Ora %@ al lancio. [SPAZIO] per mirare"},
+    {"msg.newEndStart.format", "Inizia il parziale %@. Tocca a %@. [SPAZIO] per mirare"},
+    {"msg.jackOut.format", "Il jack è uscito! Ora tocca a %@. [SPAZIO] per mirare"},
     {"msg.tieBreak.format",
-     "Partita in parità! Parziale supplementare %@: jack al centro. %@ al lancio. [SPAZIO] per mirare"},
+     "Partita in parità! Parziale supplementare %@: jack al centro. Tocca a %@. [SPAZIO] per mirare"},
     {"msg.aiAiming.format", "L’IA (%@) sta mirando..."},
-    {"msg.tournamentRound.format", "Torneo, turno %@/%@! Avversario: %@ (%@). [SPAZIO] per mirare"},
+    {"msg.tournamentRound.format", "Torneo, turno %@ di %@! Avversario: %@ (%@). [SPAZIO] per mirare"},
     {"msg.tournamentEliminated.format",
-     "Torneo finito: eliminazione al turno %@/%@. [SPAZIO] per una nuova partita"},
+     "Torneo finito: eliminazione al turno %@ di %@. [SPAZIO] per una nuova partita"},
     {"msg.tournamentChampion.format",
-     "TRIONFO NEL TORNEO! Hai vinto tutti i %@ turni! [SPAZIO] per una nuova partita"},
+     "TRIONFO NEL TORNEO! Hai vinto tutti e %@ i turni! [SPAZIO] per una nuova partita"},
 
     {"country.france", "Francia"},
     {"country.germany", "Germania"},
@@ -155,7 +155,7 @@ inline constexpr auto it = std::to_array<Text>({
      "Un gioco di boccia in 3D creato con Qt, OpenGL, Bullet e SDL.\n"
      "\n"
      "Dai creatori di VORBEL anche:\n"
-     "· vorbel-sim — il simulatore di partite: avversari controllati dal computer giocano partite intere, senza finestra\n"
+     "· vorbel-sim — il simulatore di partite: avversari controllati dal computer giocano partite intere, senza grafica\n"
      "· il codice sorgente di VORBEL — scritto per essere letto, per chi ama vedere come funziona"},
 });
 

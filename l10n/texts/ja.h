@@ -20,7 +20,7 @@ inline constexpr auto ja = std::to_array<Text>({
     {"menu.mainMenu", "メインメニュー"},
 
     {"label.end.format", "第%@エンド（全4エンド）"},
-    {"label.playingAs.format", "代表：%@ · クラス：%@"},
+    {"label.playingAs.format", "代表：%@・クラス：%@"},
     {"label.rampHint", "ランプ：ボールは床を転がります。[↑][↓]は無効"},
     {"label.aiDifficulty", "AIの難易度"},
     {"label.throwPower", "投球パワー"},
@@ -35,8 +35,8 @@ inline constexpr auto ja = std::to_array<Text>({
     {"menu.gameMenu", "ゲーム"},
     {"menu.toggleFullScreen", "フルスクリーン切り替え"},
     {"menu.rank.format", "ランク：%@"},
-    {"menu.gamesNext.format", "試合数：%@ · 次のランクまであと%@試合"},
-    {"menu.gamesMax.format", "試合数：%@ · 最高ランクに到達"},
+    {"menu.gamesNext.format", "試合数：%@・次のランクまであと%@試合"},
+    {"menu.gamesMax.format", "試合数：%@・最高ランクに到達"},
     {"menu.startGame", "ゲーム開始"},
     {"menu.tournament", "トーナメント"},
     {"menu.rules", "ルール"},
@@ -90,8 +90,10 @@ inline constexpr auto ja = std::to_array<Text>({
     {"msg.tieBreak.format",
      "同点！タイブレーク（第%@エンド）：ジャックボールはコート中央。%@の番です。[スペース]で狙う"},
     {"msg.aiAiming.format", "AI（%@）が狙っています…"},
-    {"msg.tournamentRound.format", "トーナメント ラウンド%@/%@！対戦相手：%@（%@）。[スペース]で狙う"},
-    {"msg.tournamentEliminated.format", "トーナメント終了：ラウンド%@/%@で敗退。[スペース]で新しいゲームへ"},
+    {"msg.tournamentRound.format",
+     "トーナメント第%@ラウンド（全%@ラウンド）！対戦相手：%@（%@）。[スペース]で狙う"},
+    {"msg.tournamentEliminated.format",
+     "トーナメント終了：第%@ラウンド（全%@ラウンド）で敗退。[スペース]で新しいゲームへ"},
     {"msg.tournamentChampion.format",
      "トーナメント優勝！全%@ラウンドを制しました！[スペース]で新しいゲームへ"},
 
@@ -137,7 +139,7 @@ inline constexpr auto ja = std::to_array<Text>({
      "カラーボールを白いボール（ジャックボール）のできるだけ近くに投げることが目標です。\n"
      "\n"
      "1. エンドの先攻を決めます。先攻のチームは白いジャックボールを投げ、続けて自チームの最初のカラーボールを投げます。\n"
-     "2. 次に投げるのは、その時点でジャックボールに最も近いボールを投げた側ではないチームです。\n"
+     "2. 次に投げるのは、その時点でジャックボールに最も近いボールを持っていないチームです。\n"
      "3. 各チームは1エンドに6球ずつ投げます。\n"
      "4. すべてのボールを投げ終えるとエンド終了です。相手の最もよいボールよりジャックボールに近いボール1球につき、1点が入ります。\n"
      "5. 試合は4エンドです。終了時に同点の場合はタイブレークとして追加のエンドを行い、ジャックボールは投げずに審判がコート中央に置きます。\n"
@@ -153,8 +155,8 @@ inline constexpr auto ja = std::to_array<Text>({
      "Qt、OpenGL、Bullet、SDLで作られた3Dボッチャゲームです。\n"
      "\n"
      "VORBELチームのその他の作品：\n"
-     "· vorbel-sim — 試合シミュレーター。コンピューター同士が、ウィンドウなしで試合を最後まで行います\n"
-     "· VORBELのソースコード — 読まれるために書かれたコード。仕組みを知りたいプレイヤーの皆さんへ"},
+     "・vorbel-sim — 試合シミュレーター。コンピューター同士が、グラフィックなしで試合を最後まで行います\n"
+     "・VORBELのソースコード — 読まれるために書かれたコード。仕組みを知りたいプレイヤーの皆さんへ"},
 });
 
 } // namespace vorbel::L10n::texts

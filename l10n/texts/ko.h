@@ -21,7 +21,7 @@ inline constexpr auto ko = std::to_array<Text>({
 
     {"label.end.format", "%@엔드 (총 4엔드)"},
     {"label.playingAs.format", "대표팀: %@ · 등급: %@"},
-    {"label.rampHint", "램프: 공이 바닥으로만 구름, [↑][↓] 사용 불가"},
+    {"label.rampHint", "홈통: 공이 바닥으로만 구름, [↑][↓] 사용 불가"},
     {"label.aiDifficulty", "AI 난이도"},
     {"label.throwPower", "투구 세기"},
     {"label.aiToggle", "AI"},
@@ -60,9 +60,9 @@ inline constexpr auto ko = std::to_array<Text>({
      "뇌성마비. 손이나 발로 투구합니다. 보조자를 둘 수 있으나 휠체어를 고정하고 공을 건네주는 일만 할 수 있습니다."},
     {"bc.desc.bc2", "뇌성마비. BC1보다 신체 기능 수준이 높습니다. 보조자를 둘 수 없습니다."},
     {"bc.desc.bc3",
-     "가장 심한 장애(진단명 무관). 경기장 안에서 보조자의 도움을 받아 램프(홈통)로 투구합니다."},
+     "가장 심한 장애(진단명 무관). 경기장 안에서 보조자의 도움을 받아 홈통(램프)으로 투구합니다."},
     {"bc.desc.bc4",
-     "뇌성마비가 아닌 원인에 의한 심한 운동 장애(예: 근이영양증). 램프와 보조자 없이 투구합니다."},
+     "뇌성마비가 아닌 원인에 의한 심한 운동 장애(예: 근이영양증). 홈통과 보조자 없이 투구합니다."},
 
     {"rank.novice", "초보자"},
     {"rank.thirdYouth", "청소년 3급"},
@@ -88,10 +88,11 @@ inline constexpr auto ko = std::to_array<Text>({
     {"msg.newEndStart.format", "%@엔드 시작. %@ 차례입니다. [스페이스바]로 조준"},
     {"msg.jackOut.format", "표적구가 나갔습니다! 다음 차례: %@. [스페이스바]로 조준"},
     {"msg.tieBreak.format",
-     "동점입니다! 연장전(%@엔드): 표적구를 경기장 중앙에 놓습니다. %@ 차례입니다. [스페이스바]로 조준"},
+     "동점입니다! 연장 엔드(%@엔드): 표적구를 경기장 중앙에 놓습니다. %@ 차례입니다. [스페이스바]로 조준"},
     {"msg.aiAiming.format", "AI(%@) 조준 중..."},
-    {"msg.tournamentRound.format", "토너먼트 %@/%@라운드! 상대: %@(%@). [스페이스바]로 조준"},
-    {"msg.tournamentEliminated.format", "토너먼트 종료: %@/%@라운드에서 탈락. [스페이스바]로 새 게임 시작"},
+    {"msg.tournamentRound.format", "토너먼트 %@라운드(총 %@라운드)! 상대: %@(%@). [스페이스바]로 조준"},
+    {"msg.tournamentEliminated.format",
+     "토너먼트 종료: %@라운드(총 %@라운드)에서 탈락. [스페이스바]로 새 게임 시작"},
     {"msg.tournamentChampion.format",
      "토너먼트 우승! %@개 라운드를 모두 이겼습니다! [스페이스바]로 새 게임 시작"},
 
@@ -152,7 +153,7 @@ inline constexpr auto ko = std::to_array<Text>({
                    "Qt, OpenGL, Bullet, SDL로 만든 3D 보치아 게임입니다.\n"
                    "\n"
                    "VORBEL 팀의 다른 작품:\n"
-                   "· vorbel-sim — 경기 시뮬레이터: 컴퓨터 선수들이 창 없이 경기를 끝까지 진행합니다\n"
+                   "· vorbel-sim — 경기 시뮬레이터: 컴퓨터 선수들이 그래픽 없이 경기를 끝까지 진행합니다\n"
                    "· VORBEL 소스 코드 — 읽기 좋게 쓴 코드로, 작동 원리가 궁금한 플레이어를 위한 것입니다"},
 });
 

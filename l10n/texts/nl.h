@@ -46,7 +46,7 @@ inline constexpr auto nl = std::to_array<Text>({
     {"menu.play", "Spelen"},
     {"menu.sportClass", "Sportklasse"},
     {"menu.back", "Terug"},
-    {"menu.isRealAthlete", "Ik ben sporter in het echt"},
+    {"menu.isRealAthlete", "Ik ben ook in het echt sporter"},
     {"menu.diary", "Sportdagboek"},
 
     {"diary.totalXP.format", "Ervaring (XP): %@"},
@@ -75,24 +75,25 @@ inline constexpr auto nl = std::to_array<Text>({
     {"rank.ms", "Meester in de sport"},
 
     {"msg.initial", "Druk op [SPATIE] om te richten"},
-    {"msg.aimingHint", "Pijlen [←][→] en [↑][↓] om te richten. [SPATIE]: bevestigen."},
+    {"msg.aimingHint", "Pijlen [←][→] en [↑][↓] om te richten. [SPATIE] – bevestigen."},
     {"msg.lockPower", "[SPATIE] Werpkracht vastzetten"},
     {"msg.ballInPlay", "Bal in het spel..."},
     {"msg.turn.format", "%@ is aan de beurt. [SPATIE] om te richten"},
     {"msg.endWon.format", "%@ wint het end! Punten: %@."},
     {"msg.endDraw", "Gelijkspel in dit end!"},
     {"msg.matchDraw", "De wedstrijd eindigt gelijk!"},
-    {"msg.teamWinMatch.format", "%@ WINT DE WEDSTRIJD!"},
-    {"msg.matchOver.format", "%@ Eindstand %@:%@. [SPATIE] voor een nieuw spel"},
+    {"msg.teamWinMatch.format", "%@ wint de wedstrijd!"},
+    {"msg.matchOver.format", "%@ Eindstand %@-%@. [SPATIE] voor een nieuw spel"},
     {"msg.nextEndPrompt.format", "%@ [SPATIE] voor het volgende end"},
     {"msg.newEndStart.format", "End %@ begint. %@ is aan de beurt. [SPATIE] om te richten"},
     {"msg.jackOut.format", "De jack is uit! De beurt gaat naar %@. [SPATIE] om te richten"},
     {"msg.tieBreak.format",
      "Gelijke stand! Extra end %@: de jack ligt in het midden. %@ is aan de beurt. [SPATIE] om te richten"},
     {"msg.aiAiming.format", "AI (%@) richt..."},
-    {"msg.tournamentRound.format", "Toernooironde %@/%@! Tegenstander: %@ (%@). [SPATIE] om te richten"},
+    {"msg.tournamentRound.format",
+     "Toernooi, ronde %@ van %@! Tegenstander: %@ (%@). [SPATIE] om te richten"},
     {"msg.tournamentEliminated.format",
-     "Toernooi voorbij: uitgeschakeld in ronde %@/%@. [SPATIE] voor een nieuw spel"},
+     "Toernooi voorbij: uitgeschakeld in ronde %@ van %@. [SPATIE] voor een nieuw spel"},
     {"msg.tournamentChampion.format",
      "TOERNOOIWINST! Je hebt alle %@ rondes gewonnen! [SPATIE] voor een nieuw spel"},
 
@@ -144,8 +145,8 @@ inline constexpr auto nl = std::to_array<Text>({
      "5. Een wedstrijd heeft 4 ends. Is de stand daarna gelijk, dan volgt een extra end en wordt de jack niet geworpen, maar door de scheidsrechter in het midden gelegd.\n"
      "\n"
      "Besturing:\n"
-     "[SPATIE] — beginnen met richten / hoek vastzetten / werpen.\n"
-     "[←] [→] [↑] [↓] — richting en hoogte van de worp."},
+     "[SPATIE] – beginnen met richten / hoek vastzetten / werpen.\n"
+     "[←] [→] [↑] [↓] – richting en hoogte van de worp."},
 
     {"about.text",
      "VORBEL\n"
@@ -154,8 +155,8 @@ inline constexpr auto nl = std::to_array<Text>({
      "Een 3D-bocciaspel, gemaakt met Qt, OpenGL, Bullet en SDL.\n"
      "\n"
      "Ook van de makers van VORBEL:\n"
-     "· vorbel-sim — de wedstrijdsimulator: computertegenstanders spelen hele wedstrijden, zonder venster\n"
-     "· de broncode van VORBEL — geschreven om gelezen te worden, voor spelers die graag zien hoe het werkt"},
+     "· vorbel-sim – de wedstrijdsimulator: computertegenstanders spelen hele wedstrijden, zonder grafische weergave\n"
+     "· de broncode van VORBEL – geschreven om gelezen te worden, voor spelers die graag zien hoe het werkt"},
 });
 
 } // namespace vorbel::L10n::texts

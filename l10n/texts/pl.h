@@ -46,7 +46,7 @@ inline constexpr auto pl = std::to_array<Text>({
     {"menu.play", "Graj"},
     {"menu.sportClass", "Klasa startowa"},
     {"menu.back", "Wstecz"},
-    {"menu.isRealAthlete", "Naprawdę uprawiam sport"},
+    {"menu.isRealAthlete", "Jestem sportowcem w prawdziwym życiu"},
     {"menu.diary", "Dziennik sportowca"},
 
     {"diary.totalXP.format", "Doświadczenie (XP): %@"},
@@ -64,7 +64,7 @@ inline constexpr auto pl = std::to_array<Text>({
     {"bc.desc.bc4",
      "Ciężkie niepełnosprawności ruchowe o przyczynie innej niż porażenie mózgowe (np. dystrofia mięśniowa). Bez rampy i bez asystenta."},
 
-    {"rank.novice", "Nowicjusz"},
+    {"rank.novice", "Początkujący"},
     {"rank.thirdYouth", "III klasa juniorska"},
     {"rank.secondYouth", "II klasa juniorska"},
     {"rank.firstYouth", "I klasa juniorska"},
@@ -74,7 +74,7 @@ inline constexpr auto pl = std::to_array<Text>({
     {"rank.cms", "Kandydat na mistrza sportu"},
     {"rank.ms", "Mistrz sportu"},
 
-    {"msg.initial", "Naciśnij [SPACJA], aby zacząć celować"},
+    {"msg.initial", "Naciśnij klawisz [SPACJA], aby zacząć celować"},
     {"msg.aimingHint", "Celuj strzałkami [←][→] i [↑][↓]. [SPACJA] – OK."},
     {"msg.lockPower", "[SPACJA] Ustal siłę rzutu"},
     {"msg.ballInPlay", "Bila w grze…"},
@@ -82,7 +82,7 @@ inline constexpr auto pl = std::to_array<Text>({
     {"msg.endWon.format", "%@ wygrywają end! Punkty: %@."},
     {"msg.endDraw", "Remis w endzie!"},
     {"msg.matchDraw", "Remis w meczu!"},
-    {"msg.teamWinMatch.format", "%@ WYGRYWAJĄ MECZ!"},
+    {"msg.teamWinMatch.format", "%@ wygrywają mecz!"},
     {"msg.matchOver.format", "%@ Wynik %@:%@. [SPACJA] – nowa gra"},
     {"msg.nextEndPrompt.format", "%@ [SPACJA] – następny end"},
     {"msg.newEndStart.format", "Zaczyna się end %@. Rzucają %@. [SPACJA] – celowanie"},
@@ -90,8 +90,8 @@ inline constexpr auto pl = std::to_array<Text>({
     {"msg.tieBreak.format",
      "Remis w meczu! Dodatkowy end %@: jack leży na środku. Rzucają %@. [SPACJA] – celowanie"},
     {"msg.aiAiming.format", "SI (%@) celuje…"},
-    {"msg.tournamentRound.format", "Runda turnieju %@/%@! Rywal: %@ (%@). [SPACJA] – celowanie"},
-    {"msg.tournamentEliminated.format", "Koniec turnieju: odpadasz w rundzie %@/%@. [SPACJA] – nowa gra"},
+    {"msg.tournamentRound.format", "Turniej, runda %@ z %@! Rywal: %@ (%@). [SPACJA] – celowanie"},
+    {"msg.tournamentEliminated.format", "Koniec turnieju: odpadasz w rundzie %@ z %@. [SPACJA] – nowa gra"},
     {"msg.tournamentChampion.format",
      "ZWYCIĘSTWO W TURNIEJU! Wygrywasz wszystkie rundy (%@)! [SPACJA] – nowa gra"},
 
@@ -153,7 +153,7 @@ inline constexpr auto pl = std::to_array<Text>({
      "Trójwymiarowa gra w boccię, zbudowana z użyciem Qt, OpenGL, Bullet i SDL.\n"
      "\n"
      "Także od twórców VORBEL:\n"
-     "· vorbel-sim – symulator meczów: komputerowi rywale rozgrywają całe mecze bez okna\n"
+     "· vorbel-sim – symulator meczów: komputerowi rywale rozgrywają całe mecze bez grafiki\n"
      "· kod źródłowy VORBEL – pisany po to, by go czytać, dla graczy, którzy lubią wiedzieć, jak to działa"},
 });
 

@@ -44,7 +44,7 @@ inline constexpr auto pt = std::to_array<Text>({
     {"menu.exit", "Sair"},
     {"menu.chooseCountry", "Por qual país você joga?"},
     {"menu.play", "Jogar"},
-    {"menu.sportClass", "Classe funcional"},
+    {"menu.sportClass", "Classe esportiva"},
     {"menu.back", "Voltar"},
     {"menu.isRealAthlete", "Sou atleta na vida real"},
     {"menu.diary", "Diário de atleta"},
@@ -60,11 +60,11 @@ inline constexpr auto pt = std::to_array<Text>({
      "Paralisia cerebral, lança com a mão ou com o pé. É permitido um assistente, apenas para estabilizar a cadeira de rodas e entregar a bola."},
     {"bc.desc.bc2", "Paralisia cerebral, nível funcional superior ao da BC1. Não é permitido assistente."},
     {"bc.desc.bc3",
-     "Deficiências mais graves (qualquer diagnóstico), lança com uma calha (rampa) e o apoio de um assistente no campo de jogo."},
+     "As deficiências mais graves (qualquer diagnóstico), lança com uma calha (rampa) e o apoio de um assistente no campo de jogo."},
     {"bc.desc.bc4",
      "Deficiências motoras graves não causadas por paralisia cerebral (por exemplo, distrofia muscular). Sem calha e sem assistente."},
 
-    {"rank.novice", "Principiante"},
+    {"rank.novice", "Iniciante"},
     {"rank.thirdYouth", "3ª categoria juvenil"},
     {"rank.secondYouth", "2ª categoria juvenil"},
     {"rank.firstYouth", "1ª categoria juvenil"},
@@ -78,21 +78,21 @@ inline constexpr auto pt = std::to_array<Text>({
     {"msg.aimingHint", "Setas [←][→] e [↑][↓] para mirar. [ESPAÇO] para confirmar."},
     {"msg.lockPower", "[ESPAÇO] Fixar a força do lançamento"},
     {"msg.ballInPlay", "Bola em jogo..."},
-    {"msg.turn.format", "Vez: %@. [ESPAÇO] para mirar"},
+    {"msg.turn.format", "Vez do %@. [ESPAÇO] para mirar"},
     {"msg.endWon.format", "%@ vence o parcial! Pontos: %@."},
     {"msg.endDraw", "Empate no parcial!"},
     {"msg.matchDraw", "Empate na partida!"},
-    {"msg.teamWinMatch.format", "%@ VENCE A PARTIDA!"},
-    {"msg.matchOver.format", "%@ Resultado %@:%@. [ESPAÇO] para uma nova partida"},
+    {"msg.teamWinMatch.format", "%@ vence a partida!"},
+    {"msg.matchOver.format", "%@ Resultado %@-%@. [ESPAÇO] para uma nova partida"},
     {"msg.nextEndPrompt.format", "%@ [ESPAÇO] para o próximo parcial"},
-    {"msg.newEndStart.format", "Começa o parcial %@. Vez: %@. [ESPAÇO] para mirar"},
-    {"msg.jackOut.format", "O jack saiu! A vez passa para: %@. [ESPAÇO] para mirar"},
+    {"msg.newEndStart.format", "Começa o parcial %@. Vez do %@. [ESPAÇO] para mirar"},
+    {"msg.jackOut.format", "Jack fora! Vez do %@. [ESPAÇO] para mirar"},
     {"msg.tieBreak.format",
-     "Partida empatada! Parcial de desempate %@: jack no centro. Vez: %@. [ESPAÇO] para mirar"},
+     "Partida empatada! Parcial de desempate %@: jack no centro. Vez do %@. [ESPAÇO] para mirar"},
     {"msg.aiAiming.format", "A IA (%@) está mirando..."},
-    {"msg.tournamentRound.format", "Torneio, fase %@/%@! Adversário: %@ (%@). [ESPAÇO] para mirar"},
+    {"msg.tournamentRound.format", "Torneio, fase %@ de %@! Adversário: %@ (%@). [ESPAÇO] para mirar"},
     {"msg.tournamentEliminated.format",
-     "Fim do torneio: eliminação na fase %@/%@. [ESPAÇO] para uma nova partida"},
+     "Fim do torneio: eliminação na fase %@ de %@. [ESPAÇO] para uma nova partida"},
     {"msg.tournamentChampion.format",
      "VITÓRIA NO TORNEIO! Você venceu todas as %@ fases! [ESPAÇO] para uma nova partida"},
 
@@ -143,7 +143,7 @@ inline constexpr auto pt = std::to_array<Text>({
      "4. Lançadas todas as bolas, o parcial termina: o lado com bolas mais próximas do jack do que a melhor bola do adversário ganha um ponto por cada uma delas.\n"
      "5. Uma partida tem 4 parciais. Se terminar empatada, joga-se um parcial de desempate, e o jack não é lançado, mas colocado no centro pelo árbitro.\n"
      "\n"
-     "Comandos:\n"
+     "Controles:\n"
      "[ESPAÇO] — começar a mirar / fixar o ângulo / lançar.\n"
      "[←] [→] [↑] [↓] — direção e altura do lançamento."},
 
@@ -154,7 +154,7 @@ inline constexpr auto pt = std::to_array<Text>({
      "Um jogo de boccia (bocha paralímpica) em 3D, feito com Qt, OpenGL, Bullet e SDL.\n"
      "\n"
      "Também dos criadores do VORBEL:\n"
-     "· vorbel-sim — o simulador de partidas: adversários controlados pelo computador jogam partidas inteiras, sem janela\n"
+     "· vorbel-sim — o simulador de partidas: adversários controlados pelo computador jogam partidas inteiras, sem gráficos\n"
      "· o código-fonte do VORBEL — escrito para ser lido, para quem gosta de ver como funciona"},
 });
 

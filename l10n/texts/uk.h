@@ -83,7 +83,7 @@ inline constexpr auto uk = std::to_array<Text>({
     {"msg.endWon.format", "%@ виграли енд! Очки: %@."},
     {"msg.endDraw", "Нічия в енді!"},
     {"msg.matchDraw", "Нічия в матчі!"},
-    {"msg.teamWinMatch.format", "%@ ВИГРАЛИ МАТЧ!"},
+    {"msg.teamWinMatch.format", "%@ виграли матч!"},
     {"msg.matchOver.format", "%@ Рахунок %@:%@. [ПРОБІЛ] — нова гра"},
     {"msg.nextEndPrompt.format", "%@ [ПРОБІЛ] — наступний енд"},
     {"msg.newEndStart.format", "Енд %@ розпочато. Кидають %@. [ПРОБІЛ] — прицілитися"},
@@ -91,8 +91,8 @@ inline constexpr auto uk = std::to_array<Text>({
     {"msg.tieBreak.format",
      "Нічия в матчі! Додатковий енд %@: джек поставлено в центр. Кидають %@. [ПРОБІЛ] — прицілитися"},
     {"msg.aiAiming.format", "ШІ (%@) прицілюється…"},
-    {"msg.tournamentRound.format", "Раунд турніру %@/%@! Суперник: %@ (%@). [ПРОБІЛ] — прицілитися"},
-    {"msg.tournamentEliminated.format", "Турнір завершено: виліт у раунді %@/%@. [ПРОБІЛ] — нова гра"},
+    {"msg.tournamentRound.format", "Турнір, раунд %@ із %@! Суперник: %@ (%@). [ПРОБІЛ] — прицілитися"},
+    {"msg.tournamentEliminated.format", "Турнір завершено: виліт у раунді %@ із %@. [ПРОБІЛ] — нова гра"},
     {"msg.tournamentChampion.format", "ПЕРЕМОГА В ТУРНІРІ! Ви виграли всі раунди (%@)! [ПРОБІЛ] — нова гра"},
 
     {"country.france", "Франція"},
@@ -149,10 +149,10 @@ inline constexpr auto uk = std::to_array<Text>({
     {"about.text", "VORBEL\n"
                    "\n"
                    "Створено командою VORBEL.\n"
-                   "Тривимірна гра в бочу, створена на Qt, OpenGL, Bullet і SDL.\n"
+                   "Тривимірна гра в боччу, створена на Qt, OpenGL, Bullet і SDL.\n"
                    "\n"
                    "Також від авторів VORBEL:\n"
-                   "· vorbel-sim — симулятор матчів: комп’ютерні суперники грають цілі матчі без вікна\n"
+                   "· vorbel-sim — симулятор матчів: комп’ютерні суперники грають цілі матчі без графіки\n"
                    "· вихідний код VORBEL — написаний, щоб його читали всі, кому цікаво, як це влаштовано"},
 });
 

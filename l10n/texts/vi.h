@@ -19,7 +19,7 @@ inline constexpr auto vi = std::to_array<Text>({
     {"menu.nextRound", "Vòng tiếp theo"},
     {"menu.mainMenu", "Menu chính"},
 
-    {"label.end.format", "Hiệp %@/4"},
+    {"label.end.format", "Hiệp %@ (trong 4 hiệp)"},
     {"label.playingAs.format", "Đội tuyển: %@ · Hạng %@"},
     {"label.rampHint", "Máng: bóng lăn trên mặt sân, [↑][↓] bị tắt"},
     {"label.aiDifficulty", "Độ khó của máy"},
@@ -82,17 +82,18 @@ inline constexpr auto vi = std::to_array<Text>({
     {"msg.endWon.format", "Đội %@ thắng hiệp! Điểm: %@."},
     {"msg.endDraw", "Hiệp đấu hòa!"},
     {"msg.matchDraw", "Trận đấu hòa!"},
-    {"msg.teamWinMatch.format", "Đội %@ THẮNG TRẬN!"},
-    {"msg.matchOver.format", "%@ Tỉ số %@:%@. [PHÍM CÁCH] để chơi ván mới"},
+    {"msg.teamWinMatch.format", "Đội %@ thắng trận!"},
+    {"msg.matchOver.format", "%@ Tỉ số %@-%@. [PHÍM CÁCH] để chơi ván mới"},
     {"msg.nextEndPrompt.format", "%@ [PHÍM CÁCH] để sang hiệp sau"},
     {"msg.newEndStart.format", "Hiệp %@ bắt đầu. Lượt của đội %@. [PHÍM CÁCH] để ngắm"},
     {"msg.jackOut.format", "Bóng đích ra ngoài! Lượt chuyển cho đội %@. [PHÍM CÁCH] để ngắm"},
     {"msg.tieBreak.format",
      "Hai đội hòa! Hiệp phụ (hiệp %@): bóng đích đặt ở giữa sân. Lượt của đội %@. [PHÍM CÁCH] để ngắm"},
     {"msg.aiAiming.format", "Máy (%@) đang ngắm..."},
-    {"msg.tournamentRound.format", "Giải đấu, vòng %@/%@! Đối thủ: %@ (%@). [PHÍM CÁCH] để ngắm"},
+    {"msg.tournamentRound.format",
+     "Giải đấu, vòng %@ (trong %@ vòng)! Đối thủ: %@ (%@). [PHÍM CÁCH] để ngắm"},
     {"msg.tournamentEliminated.format",
-     "Giải đấu kết thúc: bị loại ở vòng %@/%@. [PHÍM CÁCH] để chơi ván mới"},
+     "Giải đấu kết thúc: bị loại ở vòng %@ (trong %@ vòng). [PHÍM CÁCH] để chơi ván mới"},
     {"msg.tournamentChampion.format",
      "VÔ ĐỊCH GIẢI ĐẤU! Bạn đã thắng cả %@ vòng! [PHÍM CÁCH] để chơi ván mới"},
 
@@ -154,7 +155,7 @@ inline constexpr auto vi = std::to_array<Text>({
      "Trò chơi boccia 3D làm bằng Qt, OpenGL, Bullet và SDL.\n"
      "\n"
      "Sản phẩm khác của nhóm VORBEL:\n"
-     "· vorbel-sim — trình mô phỏng trận đấu: các đối thủ máy đấu trọn trận mà không cần cửa sổ\n"
+     "· vorbel-sim — trình mô phỏng trận đấu: các đối thủ máy đấu trọn trận mà không cần đồ họa\n"
      "· mã nguồn VORBEL — viết ra để đọc, dành cho người chơi muốn biết trò chơi hoạt động thế nào"},
 });
 

@@ -12,7 +12,7 @@ inline constexpr auto zh = std::to_array<Text>({
     {"team.blue.caps", "蓝方"},
 
     {"label.score", "得分："},
-    {"label.ballsLeft", "剩球："},
+    {"label.ballsLeft", "剩余球："},
     {"label.end", "局"},
 
     {"menu.matchResult", "比赛结果"},
@@ -86,8 +86,8 @@ inline constexpr auto zh = std::to_array<Text>({
     {"msg.jackOut.format", "目标球出界！投球权转给%@。[空格]瞄准"},
     {"msg.tieBreak.format", "比赛打平！加赛局（第%@局）：目标球置于场地中心。轮到%@投球。[空格]瞄准"},
     {"msg.aiAiming.format", "电脑（%@）正在瞄准……"},
-    {"msg.tournamentRound.format", "锦标赛第%@/%@轮！对手：%@（%@）。[空格]瞄准"},
-    {"msg.tournamentEliminated.format", "锦标赛结束：止步第%@/%@轮。[空格]开始新游戏"},
+    {"msg.tournamentRound.format", "锦标赛第%@轮（共%@轮）！对手：%@（%@）。[空格]瞄准"},
+    {"msg.tournamentEliminated.format", "锦标赛结束：止步第%@轮（共%@轮）。[空格]开始新游戏"},
     {"msg.tournamentChampion.format", "锦标赛冠军！你赢下了全部%@轮！[空格]开始新游戏"},
 
     {"country.france", "法国"},
@@ -147,7 +147,7 @@ inline constexpr auto zh = std::to_array<Text>({
                    "一款3D硬地滚球游戏，使用Qt、OpenGL、Bullet和SDL开发。\n"
                    "\n"
                    "VORBEL团队的其他作品：\n"
-                   "· vorbel-sim——比赛模拟器：电脑对手打完整场比赛，无需窗口\n"
+                   "· vorbel-sim——比赛模拟器：电脑对手打完整场比赛，无需图形界面\n"
                    "· VORBEL源代码——为便于阅读而写，献给想了解其运作方式的玩家"},
 });
 

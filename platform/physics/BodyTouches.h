@@ -6,9 +6,9 @@
 
 namespace vorbel {
 
-// A touch begins when two bodies meet, and lasts until they are clearly apart, so that balls resting against
-// each other do not begin to touch again and again. Bodies are known by their index; the order of a pair is
-// of no concern.
+// A touch begins when two bodies meet, and lasts until they are clearly apart,
+// so that balls resting against each other do not begin to touch again and
+// again. Bodies are known by their index; the order of a pair is of no concern.
 class BodyTouches {
 public:
     explicit BodyTouches(std::size_t bodyCount = 0)

@@ -9,8 +9,8 @@ namespace {
 constexpr double contactDistance = 0.1;       // m; contacts are foreseen up to here
 constexpr double freeMotionTolerance = 1e-20; // (m/s)²
 
-// A dozen balls need far less than Bullet's default pools of 4096 each, and the world is made anew at every
-// throw.
+// A dozen balls need far less than Bullet's default pools
+// of 4096 each, and the world is made anew at every throw.
 btDefaultCollisionConstructionInfo smallPools() {
     btDefaultCollisionConstructionInfo info;
     info.m_defaultMaxPersistentManifoldPoolSize = 64;

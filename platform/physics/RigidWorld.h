@@ -39,9 +39,9 @@ public:
 
     RigidWorld();
 
-    // One sub-step, cut in parts where balls meet: each impact happens at its own time. Bodies at rest (state
-    // ISLAND_SLEEPING) are left out until an awake body comes near. Nothing puts a body to rest but the
-    // caller.
+    // One sub-step, cut in parts where balls meet: each impact happens at its
+    // own time. Bodies at rest (state ISLAND_SLEEPING) are left out until an
+    // awake body comes near. Nothing puts a body to rest but the caller.
     void advance(double seconds, ContactListener& listener);
 
 private:

@@ -30,12 +30,12 @@ public:
     void wake(); // does nothing unless dynamic
     void rest();
 
-    // Takes over a pose or velocity that the game has set since the last write-back; says whether there was
-    // one.
+    // Takes over a pose or velocity that the game has set
+    // since the last write-back; says whether there was one.
     bool takeOver();
 
-    // Bullet's state into the scene. `writeBack` ends a tick: the node moves, and a body that came to rest
-    // sleeps.
+    // Bullet's state into the scene. `writeBack` ends a tick:
+    // the node moves, and a body that came to rest sleeps.
     void writeVelocity();
     void writeBack();
 

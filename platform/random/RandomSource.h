@@ -12,8 +12,8 @@ class RandomSource {
 public:
     virtual ~RandomSource() = default;
 
-    // Uniform in [low, high], both bounds included, with 53 bits of resolution. Needs low ≤ high, both
-    // finite.
+    // Uniform in [low, high], both bounds included, with 53
+    // bits of resolution. Needs low ≤ high, both finite.
     [[nodiscard]] double uniform(double low, double high);
 
     // Uniform in 0 … count − 1. Needs count > 0.

@@ -13,8 +13,8 @@ public:
     // Searches the folders in this order. An empty list finds nothing.
     explicit Resources(std::vector<std::filesystem::path> folders = {});
 
-    // The usual places: the folder in the environment variable VORBEL_RESOURCES (then no other), else
-    // `resources/` beside the program's build and `share/vorbel` of its install prefix.
+    // The folder that the environment variable VORBEL_RESOURCES names, and no other; where it is not set,
+    // `resources/` beside the program, where a build has it, then `share/vorbel` of its install prefix.
     [[nodiscard]] static Resources forProgram(const std::filesystem::path& executable);
 
     // The first readable file `name.extension`; none when it is missing everywhere.

@@ -1,18 +1,16 @@
 // A value that tells its observers before it changes.
 #pragma once
 
-#include "platform/runloop/MainQueue.h"
+#include "platform/runloop/Observers.h"
 
-#include <algorithm>
 #include <functional>
-#include <memory>
 #include <utility>
-#include <vector>
 
 namespace vorbel {
 
 // Reads like a plain value; assignment announces the new value, stores it, then runs the after-change action.
-// Every assignment counts as a change, of an equal value too. Main thread only.
+// Every assignment counts as a change, of an equal value too. Whoever has it as const can read and observe
+// it. Main thread only.
 template <typename T>
 class Published {
 public:
@@ -26,10 +24,7 @@ public:
     operator const T&() const { return value_; } // NOLINT(google-explicit-constructor): reads like the value
 
     Published& operator=(T newValue) {
-        const auto observers = observers_; // an observer may subscribe or unsubscribe others
-        for (const auto& observer : observers) {
-            (*observer)(newValue);
-        }
+        observers_.tell(newValue);
         value_ = std::move(newValue);
         if (afterChange_) {
             afterChange_();
@@ -39,13 +34,10 @@ public:
     Published& operator+=(const T& difference) { return *this = value_ + difference; }
     Published& operator-=(const T& difference) { return *this = value_ - difference; }
 
-    // Calls the observer before every change for as long as the subscription lives. The value must outlive
-    // it.
-    [[nodiscard]] Subscription onWillChange(Observer observer) {
-        observers_.push_back(std::make_shared<Observer>(std::move(observer)));
-        return Subscription([this, added = std::weak_ptr<Observer>(observers_.back())] {
-            std::erase(observers_, added.lock());
-        });
+    // Calls the observer before every change for as long as
+    // the subscription lives. The value must outlive it.
+    [[nodiscard]] Subscription onWillChange(Observer observer) const {
+        return observers_.add(std::move(observer));
     }
 
     // One action of the owner, run after every change.
@@ -53,7 +45,7 @@ public:
 
 private:
     T value_;
-    std::vector<std::shared_ptr<Observer>> observers_;
+    mutable Observers<T> observers_;
     std::function<void()> afterChange_;
 };
 

@@ -8,12 +8,12 @@
 
 namespace vorbel {
 
-// Make it on the main thread, after the application object. What is still waiting when it is destroyed never
-// runs.
+// Make it on the main thread, after the application object.
+// What is still waiting when it is destroyed never runs.
 class QtMainQueue final : public MainQueue {
 public:
-    // A speed above 1 makes every delay and period that much shorter: matches in fast motion. Needs speed >
-    // 0.
+    // A speed above 1 makes every delay and period that much
+    // shorter: matches in fast motion. Needs speed > 0.
     explicit QtMainQueue(double speed = 1.0);
 
     void post(Task task) override;

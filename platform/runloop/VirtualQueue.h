@@ -15,16 +15,16 @@ public:
     void postAfter(double seconds, Task task) override;
     [[nodiscard]] Subscription repeat(double period, Task task) override;
 
-    // Lets `seconds` pass: runs what falls due, in order of time and then of posting, work posted meanwhile
-    // too.
+    // Lets `seconds` pass: runs what falls due, in order of
+    // time and then of posting, work posted meanwhile too.
     void advance(double seconds);
 
     // Seconds since the queue was made.
     [[nodiscard]] double now() const;
 
 private:
-    // Whole microseconds, so that the fortieth tick of 0.02 s and a delay of 0.8 s are due at the same
-    // instant.
+    // Whole microseconds, so that the fortieth tick of
+    // 0.02 s and a delay of 0.8 s are due at the same instant.
     using Microseconds = std::int64_t;
 
     void schedule(Microseconds due, Task task);

@@ -1,5 +1,5 @@
-// Shapes of the scene as plain data. Every shape is centred on its node's origin unless stated; lengths in
-// metres.
+// Shapes of the scene as plain data. Every shape is centred
+// on its node's origin unless stated; lengths in metres.
 #pragma once
 
 #include "platform/scenegraph/Material.h"

@@ -1,10 +1,10 @@
 // A node of the scene: a named place in space that may carry a shape, a light, a camera or a rigid body.
 #pragma once
 
+#include "math/Vector.h"
 #include "platform/scenegraph/Geometry.h"
 #include "platform/scenegraph/Light.h"
 #include "platform/scenegraph/PhysicsBody.h"
-#include "platform/scenegraph/Vector.h"
 
 #include <memory>
 #include <optional>

@@ -1,7 +1,7 @@
 // A rigid body as plain data. Its collision shape is that of its node's geometry.
 #pragma once
 
-#include "platform/scenegraph/Vector.h"
+#include "math/Vector.h"
 
 namespace vorbel {
 

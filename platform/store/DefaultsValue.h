@@ -16,8 +16,8 @@ struct Bytes {
 
 using DefaultsValue = std::variant<int, bool, std::string, Bytes>;
 
-// The name of the type in a line of its own ("integer", "boolean", "text" or "bytes"), then the value
-// exactly.
+// The name of the type in a line of its own ("integer",
+// "boolean", "text" or "bytes"), then the value exactly.
 [[nodiscard]] std::string encoded(const DefaultsValue& value);
 
 // None when the content is not the encoding of any value.

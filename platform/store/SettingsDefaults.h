@@ -7,14 +7,14 @@
 
 namespace vorbel {
 
-// One file a key, because then nothing needs a lock: a file is replaced whole or not at all, so a program
-// that is killed leaves the old value or the new one, running games do not touch each other's other keys, and
-// a damaged file costs no other value. Values are read from the disk each time, so that games see what the
-// others stored.
+// One file a key, because then nothing needs a lock: a file is replaced whole or not
+// at all, so a program that is killed leaves the old value or the new one, running
+// games do not touch each other's other keys, and a damaged file costs no other value.
+// Values are read from the disk each time, so that games see what the others stored.
 //
-// What cannot be written (a read-only folder, a full disk) is kept for the session, and tried again with each
-// later write and at the end. A file that reads as no value at all is set aside as `KEY.damaged` before it is
-// replaced.
+// What cannot be written (a read-only folder, a full disk) is kept for the
+// session, and tried again with each later write and at the end. A file that
+// reads as no value at all is set aside as `KEY.damaged` before it is replaced.
 class SettingsDefaults final : public ValueDefaults {
 public:
     // The folder is made when the first value is stored.

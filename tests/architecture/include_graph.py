@@ -1,66 +1,46 @@
-"""The one rule of dependency: arrows point down, and toolkits stay where they are wrapped.
-
-complaints(root) reads every C++ file under the root and returns one sentence for each breach.
-"""
+#!/usr/bin/env python3
+"""Which folder includes which. Run as a script it prints the graph of the tree, a folder a line, with counts."""
 
 import re
+import subprocess
+from collections import Counter
 from pathlib import Path
-
-GAME = {"engine", "career", "scene"}  # the rooms of one class, GameLogic
-BELOW_GAME = {"platform", "l10n"}
-
-# What the files of each top folder may include of this project.
-MAY_INCLUDE = {
-    "l10n": {"l10n"},
-    "platform": {"platform"},
-    **{room: GAME | BELOW_GAME for room in GAME},
-    "app": {"app"} | GAME | BELOW_GAME,
-    "tools": {"tools"} | GAME | BELOW_GAME,
-    "bench": {"bench", "tests", "tools", "app"} | GAME | BELOW_GAME,
-    "tests": {"tests", "tools", "app"} | GAME | BELOW_GAME,
-}
-
-TOOLKITS = {
-    "Qt": r"Q[A-Z]\w*(/.*)?|Qt\w*/.*|q[a-z_]+\.h|.*\.moc",
-    "OpenGL": r"(GL|GLES\d?|KHR|EGL|epoxy)/.*",
-    "SDL": r"SDL.*",
-    "Bullet": r"bt[A-Z].*|(bullet/)?(Bullet|LinearMath).*|bullet/.*",
-}
-
-# The folders that wrap a toolkit. Everything else under platform/ is plain data and interfaces.
-MAY_WRAP = {
-    "platform/physics": {"Bullet"},
-    "platform/render": {"OpenGL", "Qt"},
-    "platform/audio": {"SDL"},
-    "platform/runloop": {"Qt"},
-    "platform/store": {"Qt"},
-    "app": set(TOOLKITS),
-    "tools": set(TOOLKITS),
-    "tests": set(TOOLKITS),
-    "bench": set(TOOLKITS),
-}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(<[^>]+>|"[^"]+")', re.MULTILINE)
 SUFFIXES = {".h", ".hpp", ".cpp", ".cc", ".inc"}
-NOT_SOURCES = {"build", ".git"}
+
+
+def tracked(root):
+    """The files that belong to the tree, as paths relative to the root: whatever else lies about is not read."""
+    # Whoever owns the checkout, here it is only read.
+    command = ["git", "-c", "safe.directory=*", "-C", str(root), "ls-files", "-z"]
+    listed = subprocess.run(command, check=True, capture_output=True, text=True).stdout.split("\0")
+    return [Path(name) for name in listed if name and (root / name).is_file()]
 
 
 def sources(root):
-    """The C++ files under the root, as paths relative to it."""
-    found = (path.relative_to(root) for path in root.rglob("*") if path.suffix in SUFFIXES)
-    return sorted(p for p in found if p.parts[0] not in NOT_SOURCES)
+    return sorted(file for file in tracked(root) if file.suffix in SUFFIXES)
 
 
-def toolkit_of(header):
-    return next((name for name, pattern in TOOLKITS.items() if re.fullmatch(pattern, header)), None)
+def headers_of(root, file):
+    """What a file includes, as (header, whether it was written in quotes)."""
+    return [(quoted[1:-1], quoted[0] == '"') for quoted in INCLUDE.findall((root / file).read_text())]
 
 
-def data_half(root):
-    """The files of platform/ that the library without toolkits compiles, and their headers."""
-    lists = (root / "platform/CMakeLists.txt").read_text()
-    library = re.search(r"add_library\(vorbel_platform\b([^)]*)\)", lists)
-    files = {Path("platform") / name for name in re.findall(r"\S+\.cpp", library[1])} if library else set()
-    return files | {f.with_suffix(".h") for f in files}
+def room(file):
+    """The folder that a file belongs to: a top folder, or one of the platform's."""
+    parts = file.parts[:-1]
+    return "/".join(parts[:2] if parts[:1] == ("platform",) else parts[:1])
+
+
+def include_graph(root):
+    """How many times files of one room include files of another: {(from, to): count}."""
+    arrows = Counter()
+    for file in sources(root):
+        for header, _ in headers_of(root, file):
+            if (root / header).is_file() and room(Path(header)) != room(file):
+                arrows[room(file), room(Path(header))] += 1
+    return arrows
 
 
 def reach(start, includes):
@@ -76,34 +56,13 @@ def reach(start, includes):
     return ways
 
 
-def complaints(root):
-    root = Path(root)
-    files = sources(root)
-    if not files:
-        return [f"{root}: no source files here"]
-    includes, toolkits, found = {}, {}, []
-    for file in files:
-        top, folder = file.parts[0], "/".join(file.parts[:2])
-        if top not in MAY_INCLUDE:
-            found.append(f"{file}: '{top}' is not a folder of the design")
-            continue
-        includes[file], toolkits[file] = set(), set()
-        for quoted in INCLUDE.findall((root / file).read_text()):
-            header = quoted[1:-1]
-            if (root / header).is_file():
-                includes[file].add(Path(header))
-                if header.split("/")[0] not in MAY_INCLUDE[top]:
-                    found.append(f"{file}: includes {header}, but arrows point down")
-            elif toolkit := toolkit_of(header):
-                toolkits[file].add(toolkit)
-                if toolkit not in MAY_WRAP.get(folder, MAY_WRAP.get(top, set())):
-                    found.append(f"{file}: includes {header}, but {toolkit} is not known here")
-            elif quoted[0] == '"':
-                found.append(f"{file}: includes {header}, which is not a path from the root")
+def main():
+    root = Path(__file__).resolve().parents[2]
+    arrows = include_graph(root)
+    for folder in sorted({room(file) for file in sources(root)}):
+        below = [f"{to} {count}" for (start, to), count in sorted(arrows.items()) if start == folder]
+        print(f"{folder:20} -> {', '.join(below) or 'nothing'}")
 
-    free_of_toolkits = data_half(root) | {f for f in files if f.parts[0] in GAME | {"l10n"}}
-    for file in sorted(free_of_toolkits & includes.keys()):
-        for reached, way in reach(file, includes).items():
-            for toolkit in toolkits.get(reached, ()):
-                found.append(f"{file}: reaches {toolkit} through " + " -> ".join(map(str, way[1:] or way)))
-    return found
+
+if __name__ == "__main__":
+    main()

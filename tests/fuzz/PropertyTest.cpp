@@ -1,5 +1,5 @@
 // Rules that hold for every position and every sequence of actions.
-#include "scene/Ball.h"
+#include "tests/MatchSetup.h"
 #include "tests/fuzz/RandomPlayer.h"
 
 #include <gtest/gtest.h>
@@ -19,26 +19,27 @@ rc::Gen<double> between(int low, int high) {
                         [](int thousandths) { return thousandths / steps; });
 }
 
-void placeBalls(GameLogic& game, BallColor color, const std::vector<std::pair<double, double>>& places) {
+void placeBalls(MatchSetup& setup, BallColor color, const std::vector<std::pair<double, double>>& places) {
     for (const auto& [x, z] : places) {
-        game.scene.root->addChild(makeBall(color, {x, restingHeight, z}, PhysicsBody::Type::dynamic));
+        setup.place(color, x, z);
     }
 }
 
-struct Position {
+struct AnyPosition {
     HeadlessPlatform platform{1};
     GameLogic game{platform.services()};
+    MatchSetup setup{game};
 
-    Position() {
+    AnyPosition() {
         const auto ball = rc::gen::pair(between(-4, 4), between(-12, 0));
-        game.clearField();
+        setup.emptyCourt();
         game.language = AppLanguage::en;
-        placeBalls(game, BallColor::jack, {*ball});
-        placeBalls(game, BallColor::red,
+        placeBalls(setup, BallColor::jack, {*ball});
+        placeBalls(setup, BallColor::red,
                    *rc::gen::container<std::vector<std::pair<double, double>>>(6, ball));
-        placeBalls(game, BallColor::blue,
+        placeBalls(setup, BallColor::blue,
                    *rc::gen::container<std::vector<std::pair<double, double>>>(6, ball));
-        game.phase = GamePhase::playing;
+        setup.state().phase = GamePhase::playing;
     }
 };
 
@@ -56,8 +57,8 @@ RC_GTEST_PROP(Properties, AnySequenceOfActionsKeepsTheRules, ()) {
 }
 
 RC_GTEST_PROP(Properties, AnEndIsWorthPointsForTheSideOfTheClosestBallOnly, ()) {
-    Position position;
-    position.game.phase = GamePhase::endOver;
+    AnyPosition position;
+    position.setup.state().phase = GamePhase::endOver;
     position.game.calculateScore();
     const EndResult result = position.game.endHistory.get().back();
     RC_ASSERT(result.red >= 0 && result.red <= 6 && result.blue >= 0 && result.blue <= 6);
@@ -69,10 +70,10 @@ RC_GTEST_PROP(Properties, AnEndIsWorthPointsForTheSideOfTheClosestBallOnly, ()) 
 }
 
 RC_GTEST_PROP(Properties, TheComputerAlwaysAimsWithinItsLimits, ()) {
-    Position position;
+    AnyPosition position;
     GameLogic& game = position.game;
     game.aiDifficulty = allDifficulties[*rc::gen::inRange<std::size_t>(0, allDifficulties.size())];
-    game.currentTurn = *rc::gen::element(BallColor::red, BallColor::blue);
+    position.setup.state().currentTurn = *rc::gen::element(BallColor::red, BallColor::blue);
     game.redIsAI = true;
     game.blueIsAI = true;
     game.spawnBall();

@@ -16,7 +16,7 @@ Enumeration next(const std::array<Enumeration, count>& all, Enumeration current)
 }
 
 bool ballsLeftInRange(int left) {
-    return left >= 0 && left <= GameLogic::ballsPerSide;
+    return left >= 0 && left <= ballsPerSide;
 }
 
 } // namespace
@@ -89,7 +89,7 @@ std::string RandomPlayer::brokenBall() const {
     if (jacks != 1) {
         return std::to_string(jacks) + " jacks";
     }
-    return colourBalls > 2 * GameLogic::ballsPerSide ? "more balls than were thrown" : "";
+    return colourBalls > 2 * ballsPerSide ? "more balls than were thrown" : "";
 }
 
 std::string RandomPlayer::brokenInvariant() const {

@@ -1,5 +1,5 @@
-// Long play with random keys. VORBEL_SOAK_MINUTES sets how long each run is, in minutes on the clock of the
-// match.
+// Long play with random keys. VORBEL_SOAK_MINUTES sets how
+// long each run is, in minutes on the clock of the match.
 #include "tests/fuzz/RandomPlayer.h"
 
 #include <gtest/gtest.h>

@@ -4,6 +4,7 @@
 #include "platform/random/RandomSource.h"
 #include "platform/render/Offscreen.h"
 #include "platform/render/TrackedFrame.h"
+#include "rules/CourtGeometry.h"
 #include "scene/Ball.h"
 
 #include <algorithm>
@@ -47,8 +48,8 @@ Difference compare(const QImage& actual, const QImage& wanted) {
     return difference;
 }
 
-// Compares with the stored picture of that name; when they differ, leaves the picture and the difference in
-// a folder and says where.
+// Compares with the stored picture of that name; leaves the
+// picture and the difference in a folder when they differ.
 void expectLooksLike(const QImage& actual, const std::string& name) {
     const fs::path reference = fs::path(VORBEL_REFERENCE_PICTURES) / (name + ".png");
     if (std::getenv("VORBEL_UPDATE_PICTURES") != nullptr) {
@@ -104,7 +105,8 @@ TEST(ArenaPicture, MiddleOfAnEnd) {
                                               {BallColor::red, -1.0, -0.9}}};
     Scene scene = makeArena();
     for (const Placed& ball : balls) {
-        scene.root->addChild(makeBall(ball.color, {ball.x, restingHeight, ball.z}, PhysicsBody::Type::fixed));
+        scene.root->addChild(
+            makeBall(ball.color, {ball.x, court::restingHeight, ball.z}, PhysicsBody::Type::fixed));
     }
     const Node::Ptr pointer = scene.root->findChild("pointer");
     ASSERT_TRUE(pointer);

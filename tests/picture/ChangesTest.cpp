@@ -2,6 +2,7 @@
 #include "platform/render/Pictures.h"
 #include "platform/render/Renderer.h"
 #include "platform/resources/Resources.h"
+#include "rules/CourtGeometry.h"
 #include "scene/Ball.h"
 #include "tests/picture/OffscreenTarget.h"
 #include "tests/picture/RollingBalls.h"
@@ -128,17 +129,17 @@ TEST_F(ChangesTest, JackIsPutBackOnTheCross) {
     expectSame(arena.frame(1), "before");
     arena.scene.root->removeChild(*arena.balls[0]);
     arena.scene.root->addChild(
-        makeBall(BallColor::jack, {0, restingHeight, -6.25}, PhysicsBody::Type::dynamic));
+        makeBall(BallColor::jack, {0, court::restingHeight, -6.25}, PhysicsBody::Type::dynamic));
     expectSame(arena.frame(1), "re-spotted");
 }
 
 TEST_F(ChangesTest, BallThatCameUnseenIsShownWhenItRollsIntoView) {
     expectSame(arena.frame(1), "before");
-    const Node::Ptr ball = makeBall(BallColor::red, {0, restingHeight, 20}, PhysicsBody::Type::fixed);
+    const Node::Ptr ball = makeBall(BallColor::red, {0, court::restingHeight, 20}, PhysicsBody::Type::fixed);
     arena.scene.root->addChild(ball);
     expectSame(arena.frame(1), "behind the camera");
     EXPECT_EQ(drawnPixels(), 0);
-    ball->setPosition({0.4, restingHeight, -1});
+    ball->setPosition({0.4, court::restingHeight, -1});
     expectSame(arena.frame(1), "in view");
 }
 

@@ -2,6 +2,8 @@
 
 #include "engine/GameLogic.h"
 #include "platform/random/RandomSource.h"
+#include "rules/BallModel.h"
+#include "rules/CourtGeometry.h"
 #include "scene/Ball.h"
 
 #include <algorithm>
@@ -38,9 +40,9 @@ void RollingBalls::throwAll() {
     for (int i = 0; i < ballCount; ++i) {
         const Node::Ptr& ball = balls[static_cast<std::size_t>(i)];
         const int column = i - ballCount / 2;
-        ball->setPosition({0.3 * column, i % 3 == 0 ? 0.3 : restingHeight, -0.5});
+        ball->setPosition({0.3 * column, i % 3 == 0 ? 0.3 : court::restingHeight, -0.5});
         ball->body->velocity = {-0.04 * column, 0, -2.2 - 0.25 * ((5 * i) % ballCount)};
-        ball->body->angularVelocity = {ball->body->velocity.z / ballRadius, 0, 0};
+        ball->body->angularVelocity = {ball->body->velocity.z / ball::radius, 0, 0};
     }
 }
 

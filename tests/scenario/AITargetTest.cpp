@@ -115,7 +115,7 @@ TEST_F(AITargetTest, TheFreeSpotIsTheOneFarthestFromAllBalls) {
 }
 
 TEST_F(AITargetTest, ATargetIsExtendedAlongTheThrow) {
-    game.currentTurn = BallColor::blue;
+    state.currentTurn = BallColor::blue;
     const Vec3 extended = game.extendTarget({1, 0.035, -4.5}, 0.5);
     EXPECT_NEAR(extended.x, 1, exactly);
     EXPECT_NEAR(extended.z, -5.0, exactly);

@@ -40,9 +40,9 @@ TEST_F(AITurnTest, AShortThrowStopsWhereTheComputerAimed) {
     // 1.3 m take 2.8 s, so that the ball falls to its resting speed before the time limit. The jack behind
     // the target keeps out of the way.
     ultraAimsAtEmptyCourtWithJackAt(-1, -1.68);
-    const Node::Ptr ball = game.activeBallNode;
+    const Node::Ptr ball = game.activeBallNode();
     const double distance = (game.aimPower / 20 - 0.25) / 0.4;
-    game.scene.root->removeChild(*jack());
+    setup.removeJack();
     queue.advance(1.0);
     settled();
     EXPECT_NEAR(-0.5 - ball->position().z, distance, 0.02);
@@ -79,7 +79,7 @@ TEST_F(AITurnTest, ATargetFarToTheSideIsAimedAtAlongTheLimit) {
     ultraAimsAtEmptyCourtWithJackAt(3, -1);
     EXPECT_EQ(game.aimAngle, pi / 4);
     // The ring spot's offset from red's box, projected onto the limit's direction.
-    const Vec3 spot = game.freeSpotNearJack({3, restingHeight, -1});
+    const Vec3 spot = game.freeSpotNearJack({3, court::restingHeight, -1});
     const double ax = spot.x + 1;
     const double az = spot.z + 0.5;
     const double distance = std::sin(pi / 4) * ax - std::cos(pi / 4) * az;
@@ -123,13 +123,11 @@ TEST_F(AITurnTest, AHitFurtherAwayIsThrownAtFullPower) {
 }
 
 TEST_F(AITurnTest, AnEasyComputerErrsWithinItsBounds) {
+    game.redIsAI = true;
     for (int i = 0; i < 300; ++i) {
         emptyCourt();
         jackAt(-1, -5.5); // 5 m straight ahead
         playingWith(BallColor::red);
-        game.performAITurn();
-        game.redIsAI = i >= 0; // the first pass had no computer yet
-        game.aimState = AimState::idle;
         game.performAITurn();
         EXPECT_LE(std::abs(std::tan(game.aimAngle)), 0.8 / (5 - 1.2 + 0.18) + 1e-9);
         EXPECT_GE(game.aimPower, (0.4 * (5 - 1.2 + 0.18) + 0.25) * 20 - 1e-9);
@@ -159,6 +157,54 @@ TEST_F(AITurnTest, ANewMatchDuringTheAimCancelsTheRelease) {
     queue.advance(1.5);
     EXPECT_EQ(game.aimState, AimState::idle);
     EXPECT_EQ(audio.log["Pop"], "");
+}
+
+TEST_F(AITurnTest, AResetDuringTheAimHidesThePointerAndReleasesNothingLater) {
+    ultraAimsAtEmptyCourtWithJackAt(0, -6);
+    game.redIsAI = false;
+    game.resetMatch();
+    EXPECT_EQ(game.scene.root->findChild("pointer")->opacity, 0);
+    press(); // the player aims within the second that the computer's aim would have been shown
+    queue.advance(1.0);
+    EXPECT_EQ(game.aimState, AimState::aimingAngle);
+    EXPECT_EQ(audio.log["Pop"], "");
+}
+
+TEST_F(AITurnTest, TheOtherSidesSwitchLeavesTheComputersAimAlone) {
+    ultraAimsAtEmptyCourtWithJackAt(0, -6);
+    const double angle = game.aimAngle;
+    queue.advance(0.5);
+    game.blueIsAI = true;
+    game.blueIsAI = false;
+    EXPECT_EQ(game.aimState, AimState::aimingAngle);
+    EXPECT_EQ(game.aimAngle, angle);
+    EXPECT_EQ(game.scene.root->findChild("pointer")->opacity, 0.8);
+    queue.advance(0.49);
+    EXPECT_EQ(game.aimState, AimState::aimingAngle);
+    queue.advance(0.01);
+    EXPECT_EQ(game.aimState, AimState::thrown);
+}
+
+TEST_F(AITurnTest, AnAimThatThePlayerTookOverIsNotReleasedByTheComputer) {
+    ultraAimsAtEmptyCourtWithJackAt(0, -6);
+    game.redIsAI = false;
+    press(2); // power, throw
+    ASSERT_EQ(game.aimState, AimState::thrown);
+    balls("red").back()->body = nullptr; // over after the fewest ticks, half a second
+    settled();
+    press();
+    ASSERT_EQ(game.aimState, AimState::aimingAngle);
+    queue.advance(1.0);
+    EXPECT_EQ(game.aimState, AimState::aimingAngle);
+}
+
+TEST_F(AITurnTest, AComputerThatTakesOverAnAimSaysThatItIsAboutToThrow) {
+    game.resetMatch();
+    press();
+    game.redIsAI = true;
+    EXPECT_EQ(game.aimState, AimState::idle);
+    EXPECT_EQ(game.scene.root->findChild("pointer")->opacity, 0);
+    EXPECT_EQ(message(), "AI (Red) is aiming...");
 }
 
 TEST_F(AITurnTest, TheComputerTakesOverAHalfMadeAim) {
@@ -196,7 +242,7 @@ TEST_F(AITurnTest, TwoComputersPlayTheEndWithoutAKey) {
 
 TEST_F(AITurnTest, TheComputerThrowsTheJackIntoTheCourt) {
     for (int i = 0; i < 100; ++i) {
-        game.phase = GamePhase::throwingJack;
+        state.phase = GamePhase::throwingJack;
         const auto target = game.computeAITarget();
         EXPECT_LE(std::abs(target.point.x), 1);
         EXPECT_GE(target.point.z, -7);

@@ -13,9 +13,9 @@ protected:
         humanAgainstHuman();
         game.playerClass = BocciaClass::bc4;
     }
-    void aimAt(AimState state) {
+    void aimAt(AimState stage) {
         press();
-        if (state == AimState::aimingPower) {
+        if (stage == AimState::aimingPower) {
             press();
         }
     }
@@ -76,7 +76,7 @@ TEST_F(AimingTest, ThePowerSwingsAtTheSpeedOfTheSportClass) {
     aimAt(AimState::aimingPower);
     for (const auto& [sportClass, step] : steps) {
         game.playerClass = sportClass;
-        game.aimPower = 50.0;
+        state.aimPower = 50.0;
         ticks(1);
         EXPECT_DOUBLE_EQ(game.aimPower, 50.0 + step);
     }
@@ -85,7 +85,7 @@ TEST_F(AimingTest, ThePowerSwingsAtTheSpeedOfTheSportClass) {
 TEST_F(AimingTest, ThePowerOvershootsByOneStepAndTurnsRound) {
     game.playerClass = BocciaClass::bc1;
     aimAt(AimState::aimingPower);
-    game.aimPower = 99.5;
+    state.aimPower = 99.5;
     ticks(1);
     EXPECT_DOUBLE_EQ(game.aimPower, 100.35);
     ticks(1);
@@ -95,9 +95,9 @@ TEST_F(AimingTest, ThePowerOvershootsByOneStepAndTurnsRound) {
 TEST_F(AimingTest, ThePowerTurnsRoundBelowTenToo) {
     game.playerClass = BocciaClass::bc1;
     aimAt(AimState::aimingPower);
-    game.aimPower = 99.5;
+    state.aimPower = 99.5;
     ticks(1); // now falling
-    game.aimPower = 10.0;
+    state.aimPower = 10.0;
     ticks(1);
     EXPECT_DOUBLE_EQ(game.aimPower, 9.15);
     ticks(1);
@@ -107,7 +107,7 @@ TEST_F(AimingTest, ThePowerTurnsRoundBelowTenToo) {
 TEST_F(AimingTest, ThePowerDirectionOutlivesTheThrow) {
     game.playerClass = BocciaClass::bc1;
     aimAt(AimState::aimingPower);
-    game.aimPower = 100.0;
+    state.aimPower = 100.0;
     ticks(1); // turned round
     press();
     settled();
@@ -140,6 +140,17 @@ TEST_F(AimingTest, ABc1ReleaseJittersButNeverBeyondFortyFiveDegrees) {
         settled();
     }
     EXPECT_TRUE(reduced);
+}
+
+TEST_F(AimingTest, ABc1ThrowIsAnnouncedBeforeItsJitter) {
+    game.playerClass = BocciaClass::bc1;
+    press(2);
+    std::string told;
+    const Subscription stage = game.aimState.onWillChange([&](AimState) { told += "state "; });
+    const Subscription angle = game.aimAngle.onWillChange([&](double) { told += "angle "; });
+    const Subscription message = game.message.onWillChange([&](const std::string&) { told += "message "; });
+    press();
+    EXPECT_EQ(told, "state angle message ");
 }
 
 TEST_F(AimingTest, OtherClassesReleaseExactlyAsAimed) {
@@ -193,7 +204,7 @@ TEST_F(AimingTest, SpaceIsIgnoredDuringTheComputersTurn) {
 }
 
 TEST_F(AimingTest, SpaceAfterAnEndCountsTheEndBeforeTheNextOneStarts) {
-    game.phase = GamePhase::endOver;
+    state.phase = GamePhase::endOver;
     press();
     EXPECT_EQ(game.currentEnd, 2);
     EXPECT_EQ(game.phase, GamePhase::throwingJack);
@@ -201,15 +212,15 @@ TEST_F(AimingTest, SpaceAfterAnEndCountsTheEndBeforeTheNextOneStarts) {
 }
 
 TEST_F(AimingTest, SpaceAfterTheMatchStartsANewOneOrTheNextRound) {
-    game.phase = GamePhase::gameOver;
-    game.currentEnd = 4;
+    state.phase = GamePhase::gameOver;
+    state.currentEnd = 4;
     score(5, 2);
     press();
     EXPECT_EQ(game.currentEnd, 1);
     EXPECT_EQ(game.redScore, 0);
 
     game.startTournament(Country::france);
-    game.phase = GamePhase::gameOver;
+    state.phase = GamePhase::gameOver;
     score(5, 2);
     press();
     EXPECT_EQ(game.tournamentRound, 2);
@@ -220,6 +231,18 @@ TEST_F(AimingTest, AMatchWithoutAPointerCanBePlayed) {
     humanThrows(0, 30);
     settled();
     EXPECT_EQ(game.phase, GamePhase::playing);
+}
+
+TEST_F(AimingTest, EveryTickIsAnnouncedWhenItsWorkIsDone) {
+    aimAt(AimState::aimingPower);
+    state.aimPower = 50.0;
+    std::vector<double> seen;
+    Subscription watch = game.onTick([&] { seen.push_back(game.aimPower); });
+    ticks(2);
+    EXPECT_EQ(seen, (std::vector{50.6, 51.2}));
+    watch.cancel();
+    ticks(1);
+    EXPECT_EQ(seen.size(), 2U);
 }
 
 TEST_F(AimingTest, AStoppedLoopSwingsNothing) {

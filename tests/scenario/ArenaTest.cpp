@@ -1,4 +1,5 @@
 // What stands in the arena, and that balls roll on it.
+#include "rules/BallModel.h"
 #include "tests/scenario/Match.h"
 
 #include <algorithm>
@@ -57,7 +58,7 @@ TEST_F(ArenaTest, ABallStopsAtTheInvisibleWall) {
     ball->body->velocity = {0, 0, -2};
     ball->body->angularVelocity = {-40, 0, 0};
     ticks(100);
-    EXPECT_NEAR(ball->position().z, -12.45 + ballRadius, 0.02);
+    EXPECT_NEAR(ball->position().z, -12.45 + ball::radius, 0.02);
 }
 
 TEST_F(ArenaTest, ABallRollsOnBesideTheCourt) {

@@ -52,7 +52,7 @@ TEST_F(CrowdTest, AMissingEffectIsSilent) {
     GameLogic game(Platform{queue, random, none, nothing});
     game.throwActiveBall();
     game.calculateScore();
-    EXPECT_FALSE(game.activeBallNode);
+    EXPECT_FALSE(game.activeBallNode());
 }
 
 } // namespace vorbel::test

@@ -8,8 +8,8 @@ protected:
     EndFlowTest() { humanAgainstHuman(); }
     // A jack throw of `side` that has just come to rest there.
     void jackRestsAt(double x, double z) {
-        game.aimState = AimState::thrown;
-        jack()->setPosition({x, restingHeight, z});
+        state.aimState = AimState::thrown;
+        jack()->setPosition({x, court::restingHeight, z});
         game.handleTurnTransition();
     }
     void expectJackPassedToBlue() {
@@ -65,7 +65,7 @@ TEST_F(EndFlowTest, TheSecondJackOfAnEndCountsWhereverItLies) {
 
 TEST_F(EndFlowTest, AfterTheFirstBallTheOtherSideThrows) {
     jackRestsAt(0, -6);
-    game.activeBallNode->setPosition({0, restingHeight, -5});
+    game.activeBallNode()->setPosition({0, court::restingHeight, -5});
     game.handleTurnTransition();
     EXPECT_EQ(game.redBallsLeft, 5);
     EXPECT_EQ(game.currentTurn, BallColor::blue);
@@ -88,7 +88,7 @@ TEST_F(EndFlowTest, ATieIsReds) {
     jackAt(0, -6);
     redAt(0.25, -6);
     blueAt(-0.25, -6);
-    game.currentTurn = BallColor::blue;
+    state.currentTurn = BallColor::blue;
     game.determineNextTurn();
     EXPECT_EQ(game.currentTurn, BallColor::red);
 }
@@ -101,7 +101,7 @@ TEST_F(EndFlowTest, ASideWithoutABallInPlayThrowsAndRedFirst) {
     EXPECT_EQ(game.currentTurn, BallColor::red);
     emptyCourt();
     jackAt(0, -6);
-    game.currentTurn = BallColor::blue;
+    state.currentTurn = BallColor::blue;
     game.determineNextTurn();
     EXPECT_EQ(game.currentTurn, BallColor::red);
 }
@@ -109,7 +109,7 @@ TEST_F(EndFlowTest, ASideWithoutABallInPlayThrowsAndRedFirst) {
 TEST_F(EndFlowTest, WithoutAJackRedThrows) {
     emptyCourt();
     redAt(0, -6);
-    game.currentTurn = BallColor::blue;
+    state.currentTurn = BallColor::blue;
     game.determineNextTurn();
     EXPECT_EQ(game.currentTurn, BallColor::red);
 }
@@ -129,8 +129,8 @@ TEST_F(EndFlowTest, ASideThatHasThrownAllItsBallsNeverThrowsAgain) {
 
 TEST_F(EndFlowTest, AJackKnockedOverTheSideLineIsPutOnTheCross) {
     jackRestsAt(0, -6);
-    jack()->setPosition({-3.4, restingHeight, -6});
-    game.activeBallNode->setPosition({0, restingHeight, -5});
+    jack()->setPosition({-3.4, court::restingHeight, -6});
+    game.activeBallNode()->setPosition({0, court::restingHeight, -5});
     game.handleTurnTransition();
     ASSERT_EQ(balls("jack").size(), 1U);
     EXPECT_EQ(jack()->position(), Vec3(0, 0.035, -6.25));
@@ -138,10 +138,10 @@ TEST_F(EndFlowTest, AJackKnockedOverTheSideLineIsPutOnTheCross) {
 
 TEST_F(EndFlowTest, AJackKnockedShortOrLongStaysWhereItIs) {
     jackRestsAt(0, -6);
-    jack()->setPosition({0, restingHeight, -0.7});
+    jack()->setPosition({0, court::restingHeight, -0.7});
     game.repositionJackIfKnockedOut();
     EXPECT_EQ(jack()->position().z, -0.7);
-    jack()->setPosition({3.0, restingHeight, -13});
+    jack()->setPosition({3.0, court::restingHeight, -13});
     game.repositionJackIfKnockedOut();
     EXPECT_EQ(jack()->position().z, -13);
 }
@@ -156,7 +156,7 @@ TEST_F(EndFlowTest, AMissingJackIsNoError) {
 
 TEST_F(EndFlowTest, EndsAlternateTheJack) {
     for (int end = 2; end <= 4; ++end) {
-        game.phase = GamePhase::endOver;
+        state.phase = GamePhase::endOver;
         press();
         EXPECT_EQ(game.currentEnd, end);
         EXPECT_EQ(game.currentTurn, end % 2 == 0 ? BallColor::blue : BallColor::red);
@@ -166,9 +166,9 @@ TEST_F(EndFlowTest, EndsAlternateTheJack) {
 }
 
 TEST_F(EndFlowTest, ANewEndStartsFromTheLastAim) {
-    game.aimAngle = 0.4;
-    game.aimPower = 63;
-    game.phase = GamePhase::endOver;
+    state.aimAngle = 0.4;
+    state.aimPower = 63;
+    state.phase = GamePhase::endOver;
     press();
     EXPECT_EQ(game.aimAngle, 0.4);
     EXPECT_EQ(game.aimPower, 63);
@@ -189,8 +189,8 @@ TEST_F(EndFlowTest, RussianNamesTheSidesInTheirCases) {
     EXPECT_EQ(message(), "Кон в недопустимой зоне! Ход переходит синим. [ПРОБЕЛ] для прицела");
     jackRestsAt(0, -6);
     EXPECT_EQ(message(), "Ход Синих. [ПРОБЕЛ] для прицела");
-    game.phase = GamePhase::endOver;
-    game.currentEnd = 2;
+    state.phase = GamePhase::endOver;
+    state.currentEnd = 2;
     press();
     EXPECT_EQ(message(), "Начат Энд 3. Ход Красных. [ПРОБЕЛ] для прицела");
 }

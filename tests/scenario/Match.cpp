@@ -40,41 +40,20 @@ void MatchTest::humanAgainstHuman(AppLanguage language) {
     game.startAimingLoop();
 }
 
-void MatchTest::emptyCourt() {
-    game.clearField();
-    game.activeBallNode = nullptr;
-}
-
-Node::Ptr MatchTest::place(BallColor color, double x, double z) {
-    Node::Ptr ball = makeBall(color, {x, restingHeight, z}, PhysicsBody::Type::dynamic);
-    game.scene.root->addChild(ball);
-    return ball;
-}
-
-Node::Ptr MatchTest::jackAt(double x, double z) {
-    return place(BallColor::jack, x, z);
-}
-Node::Ptr MatchTest::redAt(double x, double z) {
-    return place(BallColor::red, x, z);
-}
-Node::Ptr MatchTest::blueAt(double x, double z) {
-    return place(BallColor::blue, x, z);
-}
-
 void MatchTest::ballsLeft(int red, int blue) {
-    game.redBallsLeft = red;
-    game.blueBallsLeft = blue;
+    state.redBallsLeft = red;
+    state.blueBallsLeft = blue;
 }
 
 void MatchTest::score(int red, int blue) {
-    game.redScore = red;
-    game.blueScore = blue;
+    state.redScore = red;
+    state.blueScore = blue;
 }
 
 void MatchTest::playingWith(BallColor turn) {
-    game.phase = GamePhase::playing;
-    game.currentTurn = turn;
-    game.aimState = AimState::idle;
+    state.phase = GamePhase::playing;
+    state.currentTurn = turn;
+    state.aimState = AimState::idle;
     game.spawnBall();
 }
 
@@ -86,8 +65,8 @@ void MatchTest::press(int times) {
 
 void MatchTest::humanThrows(double angle, double power) {
     press(2);
-    game.aimAngle = angle;
-    game.aimPower = power;
+    state.aimAngle = angle;
+    state.aimPower = power;
     press();
 }
 

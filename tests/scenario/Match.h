@@ -1,10 +1,9 @@
-// A match to put into any position and to play on the virtual clock: given.jackAt(…), given.red(…),
-// when.settled().
+// A match to put into any position and to play on the virtual clock: jackAt(…), redAt(…), then settled().
 #pragma once
 
 #include "engine/GameLogic.h"
 #include "platform/runloop/VirtualQueue.h"
-#include "scene/Ball.h"
+#include "tests/MatchSetup.h"
 
 #include <gtest/gtest.h>
 
@@ -31,13 +30,15 @@ protected:
     SpyAudio audio;
     Resources resources;
     GameLogic game{Platform{queue, random, audio, resources}};
+    MatchSetup setup{game};
+    MatchState& state = setup.state();
 
     // --- given: a position ---
     void humanAgainstHuman(AppLanguage language = AppLanguage::en);
-    void emptyCourt(); // no balls at all, not even the waiting one
-    Node::Ptr jackAt(double x, double z);
-    Node::Ptr redAt(double x, double z);
-    Node::Ptr blueAt(double x, double z);
+    void emptyCourt() { setup.emptyCourt(); }
+    Node::Ptr jackAt(double x, double z) { return setup.place(BallColor::jack, x, z); }
+    Node::Ptr redAt(double x, double z) { return setup.place(BallColor::red, x, z); }
+    Node::Ptr blueAt(double x, double z) { return setup.place(BallColor::blue, x, z); }
     void ballsLeft(int red, int blue);
     void score(int red, int blue);
     void level(AIDifficulty difficulty) { game.aiDifficulty = difficulty; }
@@ -56,9 +57,6 @@ protected:
     [[nodiscard]] Node::Ptr jack() const { return game.scene.root->findChild("jack"); }
     [[nodiscard]] std::vector<Node::Ptr> balls(std::string_view name) const;
     [[nodiscard]] std::string message() const { return game.message; }
-
-private:
-    Node::Ptr place(BallColor color, double x, double z);
 };
 
 inline constexpr double exactly = 1e-12;

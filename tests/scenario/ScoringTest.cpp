@@ -9,7 +9,7 @@ protected:
         humanAgainstHuman();
         emptyCourt();
         jackAt(0, -6);
-        game.phase = GamePhase::endOver;
+        state.phase = GamePhase::endOver;
     }
     void redBallsAt(std::initializer_list<double> distances) {
         for (const double distance : distances) {
@@ -22,8 +22,8 @@ protected:
         }
     }
     void endFourWith(int red, int blue) {
-        game.currentEnd = 4;
-        game.endHistory = {{1, red, 0}, {2, 0, blue}, {3, 0, 0}};
+        state.currentEnd = 4;
+        state.endHistory = {{1, red, 0}, {2, 0, blue}, {3, 0, 0}};
         score(red, blue);
         game.calculateScore();
     }
@@ -92,7 +92,7 @@ TEST_F(ScoringTest, AScoredEndChimes) {
 }
 
 TEST_F(ScoringTest, WithoutAJackNothingIsScored) {
-    game.scene.root->removeChild(*jack());
+    setup.removeJack();
     redBallsAt({0.3});
     game.message = "unchanged";
     game.calculateScore();
@@ -118,14 +118,14 @@ TEST_F(ScoringTest, ExtraEndsRepeatUntilTheScoresDiffer) {
     endFourWith(3, 3);
     emptyCourt();
     jackAt(0, -6);
-    game.phase = GamePhase::endOver;
+    state.phase = GamePhase::endOver;
     game.calculateScore();
     EXPECT_EQ(game.currentEnd, 6);
     EXPECT_EQ(game.currentTurn, BallColor::blue);
     emptyCourt();
     jackAt(0, -6);
     blueBallsAt({0.5});
-    game.phase = GamePhase::endOver;
+    state.phase = GamePhase::endOver;
     game.calculateScore();
     EXPECT_EQ(game.phase, GamePhase::gameOver);
     EXPECT_EQ(game.endHistory.get().back(), (EndResult{6, 0, 1}));

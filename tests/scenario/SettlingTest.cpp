@@ -1,4 +1,5 @@
 // When a throw is over, and the click of balls that strike each other.
+#include "rules/BallModel.h"
 #include "tests/scenario/Match.h"
 
 namespace vorbel::test {
@@ -9,20 +10,20 @@ protected:
         humanAgainstHuman();
         emptyCourt();
         jackAt(0, -9);
-        game.phase = GamePhase::playing;
-        game.currentTurn = BallColor::red;
+        state.phase = GamePhase::playing;
+        state.currentTurn = BallColor::red;
     }
     // A throw on its way whose tick count starts now.
     void throwUnderWay() {
         game.spawnBall();
         press(3);
         ASSERT_EQ(game.aimState, AimState::thrown);
-        game.scene.root->removeChild(*balls("red").back());
+        balls("red").back()->body = nullptr; // and with it the ball that was thrown is out of play
     }
     void strike(double speed) {
         const Node::Ptr red = redAt(0, -9.0 + 0.1 + 0.004);
         red->body->velocity = {0, 0, -speed};
-        red->body->angularVelocity = {-speed / ballRadius, 0, 0};
+        red->body->angularVelocity = {-speed / ball::radius, 0, 0};
         ticks(4);
     }
 };

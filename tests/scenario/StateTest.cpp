@@ -27,11 +27,11 @@ TEST_F(StateTest, ANewMatchWaitsForRedsJack) {
     EXPECT_EQ(message(), "Нажмите [ПРОБЕЛ] для начала прицеливания");
     ASSERT_TRUE(jack());
     EXPECT_EQ(jack()->position(), Vec3(-1.0, 0.035, -0.5));
-    EXPECT_EQ(game.activeBallNode, jack());
+    EXPECT_EQ(game.activeBallNode(), jack());
 }
 
 TEST_F(StateTest, TheTurnIsTheComputersOnlyOnItsOwnSide) {
-    game.currentTurn = BallColor::blue;
+    state.currentTurn = BallColor::blue;
     game.redIsAI = true;
     EXPECT_FALSE(game.isCurrentTurnAI());
     game.blueIsAI = true;
@@ -60,11 +60,11 @@ TEST_F(StateTest, EveryOtherCountryCanBeDrawnAsOpponent) {
 TEST_F(StateTest, TheMatchLengthDoesNotFollowMaxEnds) {
     humanAgainstHuman();
     game.maxEnds = 9;
-    game.currentEnd = 4;
+    state.currentEnd = 4;
     emptyCourt();
     jackAt(0, -6);
     redAt(0.1, -6);
-    game.phase = GamePhase::endOver;
+    state.phase = GamePhase::endOver;
     game.calculateScore();
     EXPECT_EQ(game.phase, GamePhase::gameOver);
 }
@@ -76,7 +76,7 @@ TEST_F(StateTest, ObserversHearOfAChangeBeforeItHappens) {
         before = game.redScore;
         announced = newValue;
     });
-    game.redScore = 3;
+    state.redScore = 3;
     EXPECT_EQ(before, 0);
     EXPECT_EQ(announced, 3);
 }
@@ -85,7 +85,7 @@ TEST_F(StateTest, AnEndedObservationHearsNothing) {
     int calls = 0;
     Subscription subscription = game.redScore.onWillChange([&](int) { ++calls; });
     subscription.cancel();
-    game.redScore = 1;
+    state.redScore = 1;
     EXPECT_EQ(calls, 0);
 }
 

@@ -11,10 +11,10 @@ using std::numbers::pi;
 class ThrowingTest : public MatchTest {
 protected:
     const PhysicsBody& launch(double angle, double pitch, double power) {
-        game.aimAngle = angle;
-        game.aimPitch = pitch;
-        game.aimPower = power;
-        const Node::Ptr ball = game.activeBallNode;
+        state.aimAngle = angle;
+        state.aimPitch = pitch;
+        state.aimPower = power;
+        const Node::Ptr ball = game.activeBallNode();
         game.throwActiveBall();
         return *ball->body;
     }
@@ -27,7 +27,7 @@ protected:
 
 TEST_F(ThrowingTest, BluesJackWaitsInBluesBox) {
     emptyCourt();
-    game.currentTurn = BallColor::blue;
+    state.currentTurn = BallColor::blue;
     game.spawnBall();
     ASSERT_TRUE(jack());
     EXPECT_EQ(jack()->position(), Vec3(1.0, 0.035, -0.5));
@@ -37,13 +37,13 @@ TEST_F(ThrowingTest, BluesJackWaitsInBluesBox) {
 
 TEST_F(ThrowingTest, ColourBallsWaitInTheBoxOfTheirSide) {
     playingWith(BallColor::red);
-    EXPECT_EQ(game.activeBallNode->name, "red");
-    EXPECT_EQ(game.activeBallNode->position(), Vec3(-1.0, 0.035, -0.5));
+    EXPECT_EQ(game.activeBallNode()->name, "red");
+    EXPECT_EQ(game.activeBallNode()->position(), Vec3(-1.0, 0.035, -0.5));
     playingWith(BallColor::blue);
-    EXPECT_EQ(game.activeBallNode->name, "blue");
-    EXPECT_EQ(game.activeBallNode->position(), Vec3(1.0, 0.035, -0.5));
-    EXPECT_EQ(game.activeBallNode->body->type, PhysicsBody::Type::kinematic);
-    EXPECT_EQ(game.activeBallNode->body->mass, 0.2);
+    EXPECT_EQ(game.activeBallNode()->name, "blue");
+    EXPECT_EQ(game.activeBallNode()->position(), Vec3(1.0, 0.035, -0.5));
+    EXPECT_EQ(game.activeBallNode()->body->type, PhysicsBody::Type::kinematic);
+    EXPECT_EQ(game.activeBallNode()->body->mass, 0.2);
 }
 
 TEST_F(ThrowingTest, AWaitingBallIsHeldInPlace) {
@@ -80,14 +80,14 @@ TEST_F(ThrowingTest, ASecondLaunchDoesNothing) {
     EXPECT_EQ(audio.log["Pop"], "stop play ");
     game.throwActiveBall();
     EXPECT_EQ(audio.log["Pop"], "stop play ");
-    EXPECT_FALSE(game.activeBallNode);
+    EXPECT_FALSE(game.activeBallNode());
 }
 
 TEST_F(ThrowingTest, TwoSpawnsLeaveTwoWaitingBallsAndTheSecondIsActive) {
     game.spawnBall();
     const auto jacks = balls("jack");
     ASSERT_EQ(jacks.size(), 2U);
-    EXPECT_EQ(game.activeBallNode, jacks[1]);
+    EXPECT_EQ(game.activeBallNode(), jacks[1]);
 }
 
 } // namespace vorbel::test

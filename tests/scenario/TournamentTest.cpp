@@ -7,7 +7,7 @@ class TournamentTest : public MatchTest {
 protected:
     TournamentTest() { humanAgainstHuman(); }
     void matchEnds(int red, int blue) {
-        game.phase = GamePhase::gameOver;
+        state.phase = GamePhase::gameOver;
         score(red, blue);
         press();
     }
@@ -46,7 +46,7 @@ TEST_F(TournamentTest, EveryWonRoundIsFollowedByAHarderOne) {
 
 TEST_F(TournamentTest, TheFourthWinMakesAChampion) {
     game.startTournament(Country::japan);
-    game.tournamentRound = 4;
+    state.tournamentRound = 4;
     matchEnds(2, 1);
     EXPECT_FALSE(game.tournamentActive);
     EXPECT_EQ(game.redScore, 0);
@@ -80,8 +80,8 @@ TEST_F(TournamentTest, RussianMessagesAreComposed) {
     EXPECT_NE(message().find("). [ПРОБЕЛ] для прицела"), std::string::npos);
     matchEnds(0, 1);
     EXPECT_EQ(message(), "Турнир окончен: вылет в раунде 1/4. [ПРОБЕЛ] для новой игры");
-    game.tournamentActive = true;
-    game.tournamentRound = 4;
+    state.tournamentActive = true;
+    state.tournamentRound = 4;
     matchEnds(1, 0);
     EXPECT_EQ(message(), "ЧЕМПИОН ТУРНИРА! Вы выиграли все 4 раунда! [ПРОБЕЛ] для новой игры");
 }

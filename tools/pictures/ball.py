@@ -1,19 +1,20 @@
-"""A boccia ball: leather panels, sewn along three great circles, lit from above left."""
+"""A boccia ball: leather panels, sewn along three great circles, lit from above left.
+
+Only gradients and strokes: some desktops draw an icon's SVG without filters and clipping.
+"""
 
 import math
 
-from vector import dark, ellipse, light, mix, smooth
+from vector import dark, ellipse, light, mix
 
 
-def _seam(cx, cy, r, turn, lift=0.0, steps=48):
-    """The visible arc of a circle on the sphere: turn is its axis (0..2) and the ball's angles."""
-    axis, a, b, c = turn
-    ca, sa, cb, sb, cc, sc = (f(math.radians(v)) for v in (a, b, c) for f in (math.cos, math.sin))
-    radius = math.sqrt(1 - lift * lift)
+def _seam(cx, cy, r, axis, angles, steps=48):
+    """The visible half of a great circle about an axis (0..2), turned by the ball's three angles in degrees."""
+    ca, sa, cb, sb, cc, sc = (f(math.radians(v)) for v in angles for f in (math.cos, math.sin))
     front = []
     for k in range(steps):
         t = 2 * math.pi * k / steps
-        p = [radius * math.cos(t), radius * math.sin(t), lift]
+        p = [math.cos(t), math.sin(t), 0]
         x, y, z = p[axis:] + p[:axis]
         x, y = ca * x - sa * y, sa * x + ca * y
         y, z = cb * y - sb * z, sb * y + cb * z
@@ -23,33 +24,22 @@ def _seam(cx, cy, r, turn, lift=0.0, steps=48):
     return [p for p in front[start:] + front[:start] if p]
 
 
-def ball(d, cx, cy, r, colour, angles, bounce="#3fd07f"):
-    """angles: the ball's three Euler angles in degrees; bounce: the light that the floor throws back up."""
+def ball(d, cx, cy, r, colour, angles, bounce="#3fd07f", seam=0.06):
+    """bounce: the light that the floor throws back up; seam: its width, in radii."""
     body = ellipse(cx, cy, r, r)
-    deep = dark(colour, 0.62)
-    d.path(body, d.radial((cx - r * 0.32, cy - r * 0.42), r * 1.5, (0, light(colour, 0.42)), (0.3, colour),
-                          (0.68, mix(colour, deep, 0.55)), (1, deep)))
-    with d.group(clip=body):
-        for axis in range(3):
-            arc = _seam(cx, cy, r, (axis, *angles))
-            d.stroke(arc, deep, r * 0.045, 0.75)
-            d.stroke([(x - r * 0.022, y + r * 0.03) for x, y in arc], light(colour, 0.5), r * 0.02, 0.6)
-            for lift in (-0.085, 0.085):
-                arc = _seam(cx, cy, r, (axis, *angles), lift)
-                dash = f"{r * 0.05:.1f} {r * 0.05:.1f}"
-                d.path(smooth(arc, closed=False), stroke=light(colour, 0.6), stroke_width=round(r * 0.018, 2),
-                       opacity=0.75,
-                       stroke_dasharray=dash)
-        d.path(smooth([(cx - r, cy + r * 0.45), (cx - r * 0.45, cy + r * 0.86), (cx + r * 0.3, cy + r * 0.9),
-                       (cx + r * 0.95, cy + r * 0.4),
-                       (cx + r * 1.1, cy + r * 1.1), (cx, cy + r * 1.3), (cx - r * 1.1, cy + r * 1.1)]), bounce,
-                       opacity=0.42, blur=r * 0.1)
-        d.path(ellipse(cx - r * 0.3, cy - r * 0.5, r * 0.42, r * 0.26), "#ffffff", opacity=0.5, blur=r * 0.12)
-        d.path(ellipse(cx - r * 0.36, cy - r * 0.56, r * 0.15, r * 0.085), "#ffffff", opacity=0.9, blur=r * 0.03)
-        d.path(ellipse(cx + r * 0.05, cy + r * 0.08, r * 1.06, r * 1.08), stroke="#ffe9c8",
-               stroke_width=round(r * 0.1, 1), opacity=0.55, blur=r * 0.04)
+    deep = dark(colour, 0.6)
+    d.path(body, d.radial((cx - r * 0.3, cy - r * 0.42), r * 1.5, (0, light(colour, 0.4)), (0.3, colour),
+                          (0.68, mix(colour, deep, 0.5)), (1, deep)))
+    for axis in range(3):
+        arc = _seam(cx, cy, r * 0.985, axis, angles)
+        d.stroke([(x - r * 0.025, y + r * 0.03) for x, y in arc], light(colour, 0.5), r * seam * 0.5, 0.5)
+        d.stroke(arc, deep, r * seam, 0.75)
+    d.path(body, d.radial((cx - r * 0.05, cy - r * 0.3), r * 1.32, (0.8, bounce, 0), (1, bounce, 0.55)))
+    shine = (cx - r * 0.34, cy - r * 0.5)
+    d.path(ellipse(*shine, r * 0.42, r * 0.36), d.radial(shine, r * 0.42, (0, "#ffffff", 0.85), (0.35, "#ffffff", 0.4),
+                                                         (1, "#ffffff", 0)))
 
 
-def contact_shadow(d, floor, cx, cy, r):
-    with d.group(clip=floor):
-        d.path(ellipse(cx + r * 0.3, cy + r * 0.95, r * 1.0, r * 0.26), "#04210f", opacity=0.75, blur=r * 0.09)
+def contact_shadow(d, cx, cy, rx, ry, opacity=0.75):
+    with d.group(f"translate({cx} {cy}) scale(1 {ry / rx:.3f})"):
+        d.path(ellipse(0, 0, rx, rx), d.radial((0, 0), rx, (0.35, "#04210f", opacity), (1, "#04210f", 0)))

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Draws every picture of the game: writes the SVG sources, renders them with rsvg-convert and cleans the PNG edges.
+"""Makes every picture of the game: the spectators, sculpted and lit; the marks, drawn as SVG and rendered by
+rsvg-convert. Cleans the edges of the PNG files.
 
 Needs the Debian packages librsvg2-bin, python3-pil and python3-numpy. The same input always gives the same bytes.
 Usage: make_pictures.py [NAME ...]   (all pictures without a name)
 """
 
-import importlib
 import io
 import pathlib
 import subprocess
@@ -13,6 +13,12 @@ import sys
 
 import numpy
 from PIL import Image
+
+sys.dont_write_bytecode = True
+
+import icon  # noqa: E402
+import logo  # noqa: E402
+from crowd.stand import cut_out  # noqa: E402
 
 HERE = pathlib.Path(__file__).resolve().parent
 RESOURCES = HERE.parent.parent / "resources"
@@ -22,17 +28,25 @@ SOURCES = RESOURCES / "pictures"
 # and of marks, whose translucent parts are drawn so.
 CUT_OUT, TRANSLUCENT = 0.9, 0.02
 
-# Picture name, module that draws it, trusted alpha, output files with their widths in pixels.
-PICTURES = [
-    ("SpectatorBrazil1", "spectators.brazil_man", CUT_OUT, {"SpectatorBrazil1.png": 447}),
-    ("SpectatorItalyBaby", "spectators.italy_baby", CUT_OUT, {"SpectatorItalyBaby.png": 487}),
-    ("SpectatorPortugal", "spectators.portugal", CUT_OUT, {"SpectatorPortugal.png": 544}),
-    ("SpectatorThaiMan", "spectators.thai_man", CUT_OUT, {"SpectatorThaiMan.png": 527}),
-    ("SpectatorBritishOldMan", "spectators.british_old_man", CUT_OUT, {"SpectatorBritishOldMan.png": 565}),
-    ("SpectatorBrazilGirl", "spectators.brazil_girl", CUT_OUT, {"SpectatorBrazilGirl.png": 447}),
-    ("SpectatorGermanyWoman", "spectators.germany_woman", CUT_OUT, {"SpectatorGermanyWoman.png": 465}),
-    ("Logo", "logo", TRANSLUCENT, {"Logo.png": 640}),
-    ("Icon", "icon", TRANSLUCENT, {f"Icon{s}.png": s for s in (16, 32, 48, 128, 256)}),
+LINES = 512  # of a spectator: twice what the game keeps
+
+# Picture name, module with its people, width divided by height as the stands expect it.
+SPECTATORS = [
+    ("SpectatorBrazil1", "crowd.pictures.brazil1", 447 / 796),
+    ("SpectatorItalyBaby", "crowd.pictures.italy_baby", 487 / 870),
+    ("SpectatorPortugal", "crowd.pictures.portugal", 544 / 905),
+    ("SpectatorThaiMan", "crowd.pictures.thai_man", 527 / 900),
+    ("SpectatorBritishOldMan", "crowd.pictures.british_old_man", 565 / 907),
+    ("SpectatorBrazilGirl", "crowd.pictures.brazil_girl", 149 / 284),
+    ("SpectatorGermanyWoman", "crowd.pictures.germany_woman", 155 / 287),
+]
+
+# Picture name, what draws it, output files with their widths in pixels.
+MARKS = [
+    ("Logo", logo.draw, {"Logo.png": 640}),
+    ("Icon", icon.draw, {f"Icon{s}.png": s for s in (32, 48, 64, 128, 256)}),
+    ("Icon16", icon.draw16, {"Icon16.png": 16}),
+    ("Icon22", icon.draw22, {"Icon22.png": 22}),
 ]
 
 BLEED = 40  # pixels to which edge colours spread into the transparent surround
@@ -73,21 +87,25 @@ def render(svg, width):
     return numpy.asarray(Image.open(io.BytesIO(png)).convert("RGBA"))
 
 
+def save(pixels, trusted, file):
+    pixels = bleed(pixels, min(BLEED, pixels.shape[1] // 2), trusted)
+    image = Image.fromarray(merge_levels(pixels))
+    image.save(RESOURCES / file, optimize=True)
+    print(f"{file}: {image.width} x {image.height}, {(RESOURCES / file).stat().st_size / 1000:.0f} KB", flush=True)
+
+
 def main(names):
+    for name, module, aspect in SPECTATORS:
+        if not names or name in names:
+            save(cut_out(module, aspect, LINES), CUT_OUT, f"{name}.png")
     SOURCES.mkdir(exist_ok=True)
-    for name, module, trusted, outputs in PICTURES:
-        if names and name not in names:
-            continue
-        svg = SOURCES / f"{name}.svg"
-        svg.write_text(importlib.import_module(module).draw().svg(), encoding="utf-8")
-        for file, width in outputs.items():
-            pixels = bleed(render(svg, width), min(BLEED, width // 2), trusted)
-            image = Image.fromarray(merge_levels(pixels))
-            image.save(RESOURCES / file, optimize=True)
-            print(f"{file}: {image.width} x {image.height}, {(RESOURCES / file).stat().st_size / 1000:.0f} KB")
+    for name, draw, outputs in MARKS:
+        if not names or name in names:
+            svg = SOURCES / f"{name}.svg"
+            svg.write_text(draw().svg(), encoding="utf-8")
+            for file, width in outputs.items():
+                save(render(svg, width), TRANSLUCENT, file)
 
 
 if __name__ == "__main__":
-    sys.path.insert(0, str(HERE))
-    sys.dont_write_bytecode = True
     main(sys.argv[1:])

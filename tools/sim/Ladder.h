@@ -1,7 +1,7 @@
 // Every level against every level.
 #pragma once
 
-#include "engine/MatchTypes.h"
+#include "rules/MatchTypes.h"
 
 #include <array>
 #include <cstdint>

@@ -26,7 +26,7 @@ struct Throw {
         balls{}; // all balls on the court in the order of their throws, at their last places
 };
 
-// The match is over and decided: seeds give different, each seed the same, results.
+// One match from its first throw to its result. The same pairing gives the same match, another seed another one.
 class MatchPlayer {
 public:
     using ThrowObserver = std::function<void(const Throw&, const GameLogic&)>;

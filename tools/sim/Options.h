@@ -1,7 +1,7 @@
 // The command line of vorbel-sim.
 #pragma once
 
-#include "engine/MatchTypes.h"
+#include "rules/MatchTypes.h"
 
 #include <cstdint>
 #include <span>

@@ -1,4 +1,4 @@
-// Who made the game, and where to find them.
+// Who made the game, and its own pages in the browser.
 import QtQuick
 import QtQuick.Layouts
 import Vorbel
@@ -17,8 +17,8 @@ MenuBackdrop {
         Layout.alignment: Qt.AlignHCenter
     }
     LinkButton {
-        text: screen.menu.webSite
-        onClicked: screen.menu.openWebSite()
+        text: screen.menu.texts.pages
+        onClicked: screen.menu.openPages()
     }
     MenuButton {
         focus: true

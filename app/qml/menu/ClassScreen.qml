@@ -31,6 +31,7 @@ MenuBackdrop {
 
                 text: modelData
                 selected: index === screen.choices.classIndex
+                Accessible.description: screen.choices.classDescriptions[sportClass.index]
                 onClicked: screen.choices.classIndex = sportClass.index
             }
         }

@@ -2,7 +2,6 @@
 the keyboard reaches it."""
 
 import tempfile
-import time
 import unittest
 from pathlib import Path
 
@@ -47,7 +46,8 @@ class AccessibilityTest(unittest.TestCase):
         return self.game
 
     def check_screen(self, screen, expected=None):
-        """Exactly the expected controls, each with a press, and each where Tab leads."""
+        """Exactly the expected controls, each with a press, and each where Tab leads. A screen with one control
+        is left by it."""
         expected = expected or SCREENS[screen]
         with self.subTest(screen):
             wait_until(lambda: {identity(i) for i in self.game.controls()} == expected,
@@ -59,16 +59,20 @@ class AccessibilityTest(unittest.TestCase):
                 action = control.queryAction()
                 self.assertIn("Press", [action.getName(i) for i in range(action.nActions)], control.name)
             focusable = {identity(i) for i in controls if pyatspi.STATE_FOCUSABLE in states(i)}
-            self.assertEqual(self.reached_by("Tab", len(focusable)), focusable)
+            if len(focusable) == 1:
+                self.leave_by(*focusable)
+            else:
+                self.assertEqual(self.reached_by("Tab", len(focusable)), focusable)
 
     def reached_by(self, key, count):
-        if count == 1:  # there is nowhere to go
-            self.game.key(key)
-            time.sleep(0.2)
-            return {identity(i) for i in self.game.controls() if pyatspi.STATE_FOCUSED in states(i)}
         round_trip = [self.game.tab(key) for _ in range(count + 1)]
         self.assertEqual(round_trip[0], round_trip[-1], "Tab leads round and round")
         return set(round_trip)
+
+    def leave_by(self, only_control):
+        """Tab has nowhere else to go: Return still presses the control."""
+        self.game.key("Tab", "Return")
+        wait_until(lambda: only_control not in {identity(i) for i in self.game.controls()}, "the screen closes")
 
     def test_every_control_of_every_screen_has_a_name_a_role_and_a_press_and_is_reached_by_tab(self):
         game = self.start()
@@ -80,7 +84,6 @@ class AccessibilityTest(unittest.TestCase):
         game.press("push button", EN["menu.back"])
         game.press("push button", EN["menu.rules"])
         self.check_screen("rules")
-        game.press("push button", EN["menu.back"])
         game.press("push button", EN["menu.about"])
         link = [identity(i) for i in wait_until(game.controls, "about") if i.getRoleName() == "link"]
         self.assertEqual(len(link), 1)
@@ -178,7 +181,6 @@ class AccessibilityTest(unittest.TestCase):
         self.play_on_until_the_result()
         game.find("heading", EN["menu.matchResult"])
         self.check_screen("result")
-        game.press("push button", EN["menu.mainMenu"])
         self.check_screen("main")
 
     def play_on_until_the_result(self):

@@ -1,5 +1,5 @@
-// screen_picture FILE: saves what the upper left corner of the screen shows, where a window of the smallest
-// size lies.
+// screen_picture FILE: saves what the upper left corner of
+// the screen shows, where a window of the smallest size lies.
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>

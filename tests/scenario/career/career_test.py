@@ -142,7 +142,7 @@ class CareerTest(unittest.TestCase):
         self.go_on("VORBEL")
 
     def shows_round(self, number):
-        line = f"{EN['menu.tournament']} {number} "
+        line = f"{EN['menu.tournament']} {number}/4 "
         return wait_until(lambda: [n for n in self.game.names("label") if n.startswith(line)], line)
 
     def check_career(self, results):

@@ -2,7 +2,7 @@
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include <QAccessible>
-#include <QElapsedTimer>
+#include <QFileInfo>
 #include <QSet>
 #include <QTest>
 #include <QUrl>
@@ -22,10 +22,6 @@ constexpr MenuScreen allScreens[] = {MenuScreen::main,       MenuScreen::country
 
 QAccessibleInterface* accessible(QQuickItem& item) {
     return QAccessible::queryAccessibleInterface(&item);
-}
-
-QRectF inScene(const QQuickItem& item) {
-    return item.mapRectToScene({0, 0, item.width(), item.height()});
 }
 
 } // namespace
@@ -60,7 +56,7 @@ protected:
 };
 
 TEST_F(ControlsTest, TabAndBacktabReachEveryControlOfEveryScreen) {
-    view.setRealAthlete(true);
+    view.career().setRealAthlete(true);
     for (const MenuScreen screen : allScreens) {
         for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
             game.open(MenuScreen::hidden);
@@ -84,20 +80,20 @@ TEST_F(ControlsTest, TabAndBacktabReachEveryControlOfEveryScreen) {
 TEST_F(ControlsTest, ReturnPressesWhatHasTheFocus) {
     EXPECT_EQ(game.focusedText(), QStringLiteral("Start Game"));
     game.press(Qt::Key_Return);
-    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
+    EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::country);
     tabTo(QStringLiteral("Peru"));
     game.press(Qt::Key_Return);
-    EXPECT_EQ(view.selectedCountry(), Country::peru);
+    EXPECT_EQ(view.settings()->selectedCountry(), Country::peru);
     EXPECT_EQ(game.focusedText(), QStringLiteral("Peru"));
     tabTo(QStringLiteral("Play"));
     game.press(Qt::Key_Return);
-    EXPECT_EQ(view.menuScreen(), MenuScreen::bcClass);
+    EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::bcClass);
     tabTo(QStringLiteral("BC3"));
     game.press(Qt::Key_Enter);
-    EXPECT_EQ(view.selectedClass(), BocciaClass::bc3);
+    EXPECT_EQ(view.settings()->selectedClass(), BocciaClass::bc3);
     tabTo(QStringLiteral("Play"));
     game.press(Qt::Key_Return);
-    EXPECT_EQ(view.menuScreen(), MenuScreen::hidden);
+    EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::hidden);
     EXPECT_EQ(match.playerCountry, Country::peru);
     EXPECT_EQ(match.playerClass, BocciaClass::bc3);
 }
@@ -105,7 +101,7 @@ TEST_F(ControlsTest, ReturnPressesWhatHasTheFocus) {
 TEST_F(ControlsTest, TheLanguageIsChosenByKeyboardAndTheFocusStays) {
     tabTo(QStringLiteral("Deutsch"));
     game.press(Qt::Key_Return);
-    EXPECT_EQ(view.selectedLanguage(), AppLanguage::de);
+    EXPECT_EQ(view.settings()->selectedLanguage(), AppLanguage::de);
     EXPECT_EQ(game.focusedText(), QStringLiteral("Deutsch"));
 }
 
@@ -115,7 +111,7 @@ TEST_F(ControlsTest, SpaceAndArrowsNeitherPressAControlNorMoveTheFocusNorReachTh
         const QQuickItem* focus = game.focus();
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
             game.press(key);
-            EXPECT_EQ(view.menuScreen(), screen);
+            EXPECT_EQ(view.openMenu().menuScreen(), screen);
             EXPECT_EQ(game.focus(), focus);
             EXPECT_EQ(match.aimState, AimState::idle);
         }
@@ -125,9 +121,9 @@ TEST_F(ControlsTest, SpaceAndArrowsNeitherPressAControlNorMoveTheFocusNorReachTh
 TEST_F(ControlsTest, SpaceWorksNoSwitch) {
     tabTo(QStringLiteral("I'm a real-life athlete"));
     game.press(Qt::Key_Space);
-    EXPECT_FALSE(view.isRealAthlete());
+    EXPECT_FALSE(view.career().isRealAthlete());
     game.press(Qt::Key_Return);
-    EXPECT_TRUE(view.isRealAthlete());
+    EXPECT_TRUE(view.career().isRealAthlete());
 }
 
 TEST_F(ControlsTest, OnceTheMenuIsHiddenTheKeysPlay) {
@@ -166,27 +162,32 @@ TEST_F(ControlsTest, AllFiveButtonsWithoutTheAthleteAndTheDiaryWithHim) {
     EXPECT_EQ(buttons(), 6);
     tabTo(QStringLiteral("Athlete's Diary"));
     game.press(Qt::Key_Return);
-    EXPECT_EQ(view.menuScreen(), MenuScreen::diary);
+    EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::diary);
 }
 
 TEST_F(ControlsTest, TheMousePressesButtonsAndNothingBehindThem) {
     click(QStringLiteral("Start Game"));
-    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
+    EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::country);
     click(QStringLiteral("Croatia"));
-    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
-    EXPECT_EQ(view.selectedCountry(), Country::croatia);
-    for (int x = 10; x < 1200; x += 15) { // along the switches and levels of the display behind
-        for (const int y : {200, 212, 230, 245}) {
-            QTest::mouseClick(&game.window(), Qt::LeftButton, {}, {x, y});
-        }
+    EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::country);
+    EXPECT_EQ(view.settings()->selectedCountry(), Country::croatia);
+    std::vector<QQuickItem*> behind;
+    collect(
+        *game.window().contentItem(),
+        [](QQuickItem& item) { return isOfType(item, "DifficultyButton") || isOfType(item, "ToggleSwitch"); },
+        behind);
+    ASSERT_EQ(behind.size(), 6U) << "four levels and two switches";
+    for (const QQuickItem* item : behind) {
+        QTest::mouseClick(&game.window(), Qt::LeftButton, {}, inScene(*item).center().toPoint());
+        game.settle();
     }
-    EXPECT_FALSE(view.redAIOn());
-    EXPECT_FALSE(view.blueAIOn());
-    EXPECT_EQ(view.difficulty(), AIDifficulty::medium);
+    EXPECT_FALSE(view.settings()->redAIOn());
+    EXPECT_FALSE(view.settings()->blueAIOn());
+    EXPECT_EQ(view.settings()->difficulty(), AIDifficulty::medium);
 }
 
 TEST_F(ControlsTest, AssistiveTechnologyFindsANameARoleAndAPressOnEveryControl) {
-    view.setRealAthlete(true);
+    view.career().setRealAthlete(true);
     for (const MenuScreen screen : allScreens) {
         game.open(screen);
         for (QQuickItem* item : game.controls()) {
@@ -210,36 +211,41 @@ TEST_F(ControlsTest, AssistiveTechnologyPressesButtonsChoicesAndSwitches) {
         game.settle();
     };
     press("Deutsch", QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(view.selectedLanguage(), AppLanguage::de);
+    EXPECT_EQ(view.settings()->selectedLanguage(), AppLanguage::de);
     press("English", QAccessibleActionInterface::pressAction());
     press("I'm a real-life athlete", QAccessibleActionInterface::toggleAction());
-    EXPECT_TRUE(view.isRealAthlete());
+    EXPECT_TRUE(view.career().isRealAthlete());
     press("Start Game", QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
+    EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::country);
     press("Japan", QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(view.selectedCountry(), Country::japan);
+    EXPECT_EQ(view.settings()->selectedCountry(), Country::japan);
 }
 
-TEST_F(ControlsTest, TheAboutScreenHasALinkToTheMakers) {
+TEST_F(ControlsTest, TheAboutScreenHasALinkToTheGamesPagesInThePlayersLanguage) {
     game.open(MenuScreen::about);
-    EXPECT_EQ(accessible(control(view.menu()->webSite()))->role(), QAccessible::Link);
-    EXPECT_TRUE(QUrl(view.menu()->webSite(), QUrl::StrictMode).isValid());
+    EXPECT_EQ(accessible(control(QStringLiteral("The game's pages")))->role(), QAccessible::Link);
+    for (const AppLanguage language : allLanguages) {
+        game.setLanguage(language);
+        const QFileInfo page(view.menu()->pages().toLocalFile());
+        EXPECT_TRUE(page.isFile()) << rawValue(language);
+        EXPECT_EQ(page.baseName().toStdString(), rawValue(language));
+    }
 }
 
-TEST_F(ControlsTest, ALongDiaryOpensAtOnceAndScrollsToItsEnd) {
+TEST_F(ControlsTest, OfALongDiaryOnlyTheRowsThatAreSeenAreMadeAndItScrollsToItsEnd) {
     std::string json = "[";
     for (int i = 0; i < 100'000; ++i) {
         json += (i == 0 ? "" : ",") + std::string(R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":)") +
                 std::to_string(700'000'000 - i * 3600) + R"(.25,"resultKey":"diary.win","xpGained":1})";
     }
     game.defaults().setBytes("boccia_diaryData", json + "]");
-    QElapsedTimer clock;
-    clock.start();
     view.menu()->openDiary();
     game.layOut();
-    RecordProperty("milliseconds", std::to_string(clock.elapsed()));
-    std::printf("100,000 entries: %lld ms\n", static_cast<long long>(clock.elapsed()));
-    EXPECT_LT(clock.elapsed(), 1000);
+    std::vector<QQuickItem*> rows;
+    collect(
+        game.menu(), [](QQuickItem& item) { return isOfType(item, "DiaryRow"); }, rows);
+    EXPECT_GT(rows.size(), 5U);
+    EXPECT_LT(rows.size(), 100U);
     EXPECT_EQ(view.menu()->career()->diary()->rowCount(), 100'000);
     game.press(Qt::Key_Tab); // from the button to the list
     game.press(Qt::Key_End);

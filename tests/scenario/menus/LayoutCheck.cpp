@@ -12,10 +12,6 @@ namespace {
 
 constexpr qreal rounding = 1; // logical pixels
 
-QRectF inScene(const QQuickItem& item) {
-    return item.mapRectToScene({0, 0, item.width(), item.height()});
-}
-
 bool contains(const QRectF& outer, const QRectF& inner) {
     return outer.adjusted(-rounding, -rounding, rounding, rounding).contains(inner);
 }

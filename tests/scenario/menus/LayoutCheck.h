@@ -7,9 +7,9 @@
 
 namespace vorbel {
 
-// One line for each text below the item that is cut off, leaves its parents or the window, or overlaps
-// another text. What a scrolling area hides for the moment is not looked at. The window must have been drawn
-// before.
+// One line for each text below the item that is cut off, leaves its parents
+// or the window, or overlaps another text. What a scrolling area hides for
+// the moment is not looked at. The window must have been drawn before.
 [[nodiscard]] QStringList unreadableTexts(QQuickItem& root);
 
 } // namespace vorbel

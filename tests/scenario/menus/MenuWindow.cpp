@@ -25,6 +25,10 @@ bool isOfType(const QQuickItem& item, const char* className) {
     return false;
 }
 
+QRectF inScene(const QQuickItem& item) {
+    return item.mapRectToScene({0, 0, item.width(), item.height()});
+}
+
 MenuWindow::MenuWindow(const Resources& resources) : view_(withResources(platform_, resources), defaults_) {
     engine_.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view_)},
                                   {QStringLiteral("shell"), QVariant::fromValue(&shell_)}});
@@ -34,7 +38,7 @@ MenuWindow::MenuWindow(const Resources& resources) : view_(withResources(platfor
         }
     });
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Vorbel/qml/Main.qml")));
+    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Vorbel/qml/window/Main.qml")));
     window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().value(0));
     if (window_ == nullptr) {
         throw std::runtime_error("the window cannot be made");
@@ -56,12 +60,12 @@ QQuickItem& MenuWindow::menu() const {
 }
 
 void MenuWindow::setLanguage(AppLanguage language) {
-    view_.setSelectedLanguage(language);
+    view_.settings()->setSelectedLanguage(language);
     settle();
 }
 
 void MenuWindow::open(MenuScreen screen) {
-    view_.setMenuScreen(screen);
+    view_.openMenu().setMenuScreen(screen);
     settle();
 }
 

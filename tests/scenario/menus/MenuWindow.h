@@ -1,9 +1,9 @@
 // The game's real window with its menu, in this process, on a clock that moves only when told to.
 #pragma once
 
-#include "app/ContentView.h"
-#include "app/VorbelApp.h"
 #include "app/shell/NotificationCenter.h"
+#include "app/shell/VorbelApp.h"
+#include "app/window/ContentView.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/store/MemoryDefaults.h"
 
@@ -43,7 +43,7 @@ private:
     MemoryDefaults defaults_;
     NotificationCenter notifications_;
     ContentView view_;
-    VorbelApp shell_{view_, notifications_};
+    VorbelApp shell_{*view_.settings(), notifications_};
     QQmlApplicationEngine engine_;
     QQuickWindow* window_ = nullptr;
     QStringList complaints_;
@@ -62,6 +62,8 @@ void collect(QQuickItem& item, Predicate wanted, std::vector<QQuickItem*>& found
         collect(*child, wanted, found);
     }
 }
+
+[[nodiscard]] QRectF inScene(const QQuickItem& item); // where it lies in the window
 
 [[nodiscard]] bool isOfType(const QQuickItem& item,
                             const char* className); // its own type or one it derives from

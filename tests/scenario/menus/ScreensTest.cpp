@@ -1,14 +1,13 @@
 // Every screen of the menu in every language.
+#include "tests/MatchSetup.h"
 #include "tests/scenario/menus/LayoutCheck.h"
 #include "tests/scenario/menus/MenuWindow.h"
+#include "tests/scenario/menus/Pictures.h"
 
 #include "career/Diary.h"
-
-#include <QDir>
+#include "platform/random/Uuid.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
 
 namespace vorbel {
 
@@ -42,30 +41,14 @@ void fill(MenuWindow& game) {
     game.defaults().setInteger("boccia_gamesPlayed", 45);
     game.defaults().setInteger("boccia_athleteXP", 123);
     game.defaults().setBytes("boccia_diaryData", diaryOf(40));
-    game.view().setRealAthlete(true);
+    game.view().career().setRealAthlete(true);
     game.view().menu()->career()->readDiary();
-    GameLogic& match = game.view().gameLogic();
+    MatchState& match = MatchSetup(game.view().gameLogic()).state();
     match.tournamentActive = true;
     match.tournamentRound = 2;
     match.endHistory = std::vector<EndResult>{{1, 2, 0}, {2, 0, 1}, {3, 0, 3}, {4, 2, 0}, {5, 1, 0}};
     match.redScore = 5;
     match.blueScore = 4;
-}
-
-// Where pictures of the screens go: the folder that the variable names; without it none are kept.
-QString picturesFolder() {
-    const char* folder = std::getenv("VORBEL_MENU_PICTURES");
-    return folder == nullptr ? QString() : QString::fromLocal8Bit(folder);
-}
-
-void keep(const QImage& picture, AppLanguage language, const char* screen) {
-    const QString folder = picturesFolder();
-    if (!folder.isEmpty()) {
-        QDir().mkpath(folder);
-        EXPECT_TRUE(picture.save(
-            QStringLiteral("%1/%2-%3.png")
-                .arg(folder, QString::fromUtf8(rawValue(language)), QString::fromLatin1(screen))));
-    }
 }
 
 const Resources resources({VORBEL_RESOURCES_FOLDER});
@@ -97,7 +80,7 @@ TEST_P(ScreensTest, NoTextIsCutOffOverlapsOrOverflows) {
 
 TEST_P(ScreensTest, NeitherDoTheOtherContentsOfTheSameScreens) {
     for (const BocciaClass sportClass : allBocciaClasses) {
-        game.view().setSelectedClass(sportClass);
+        game.view().settings()->setSelectedClass(sportClass);
         game.open(MenuScreen::bcClass);
         check(std::string(rawValue(sportClass)).c_str());
     }
@@ -107,7 +90,7 @@ TEST_P(ScreensTest, NeitherDoTheOtherContentsOfTheSameScreens) {
     game.defaults().setBytes("boccia_diaryData", "");
     game.view().menu()->openDiary();
     check("diary-empty");
-    game.view().setRealAthlete(false);
+    game.view().career().setRealAthlete(false);
     for (const int played : {0, 3, 6, 10, 15, 20, 30, 45, 60}) {
         game.defaults().setInteger("boccia_gamesPlayed", played);
         game.open(MenuScreen::hidden);

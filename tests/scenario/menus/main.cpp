@@ -1,6 +1,6 @@
 // Tests that show the menu in a real window, on the display that they are given.
-#include "app/Display.h"
-#include "app/Fonts.h"
+#include "app/text/Fonts.h"
+#include "app/window/Display.h"
 
 #include <QGuiApplication>
 

@@ -17,7 +17,8 @@ constexpr int lookAgainAfter = 20; // ms
 bool runTool(const QStringList& arguments) {
     QProcess tool;
     tool.start(QStringLiteral("xdotool"), arguments);
-    return tool.waitForFinished(10'000) && tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
+    return tool.waitForFinished(patience) && tool.exitStatus() == QProcess::NormalExit &&
+           tool.exitCode() == 0;
 }
 
 } // namespace
@@ -37,10 +38,20 @@ void Desktop::press(const QString& key) const {
     runTool({QStringLiteral("key"), key});
 }
 
+bool Desktop::pressUntilChanged(const QString& key, const QRect& part) const {
+    const QImage before = picture().copy(part);
+    press(key);
+    return waitUntil([&] { return picture().copy(part) != before; });
+}
+
+// A window that is just coming or going cannot take the keyboard: the tool fails at once, and may succeed
+// later.
 bool Desktop::focusGame() const {
-    return runTool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
-                    QStringLiteral("--name"), QStringLiteral("^VORBEL$"), QStringLiteral("windowfocus"),
-                    QStringLiteral("--sync")});
+    return waitUntil([] {
+        return runTool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
+                        QStringLiteral("--name"), QStringLiteral("^VORBEL$"), QStringLiteral("windowfocus"),
+                        QStringLiteral("--sync")});
+    });
 }
 
 void Desktop::startMatch() const {

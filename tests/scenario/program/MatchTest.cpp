@@ -11,20 +11,12 @@ namespace vorbel {
 namespace {
 
 // Where a window of 1200 × 800 at the screen's corner shows what is looked at.
-constexpr QPoint court(600, 450);
-constexpr QPoint redBorder(20, 150);
-constexpr QPoint blueBorder(1179, 150);
 constexpr QPoint blueSwitch(1128, 212); // the half of its track that the knob leaves free when it is on
 
-constexpr QRect messageLine(300, 730, 600, 60);
 constexpr QPoint barStart(412, 696); // inside the power bar's fill whenever the bar is shown
 constexpr QPoint barMiddle(570, 696);
 
-const QColor courtGreen(42, 160, 96);
-const QColor red(255, 82, 71);
-const QColor blue(77, 163, 255);
-
-constexpr int patience = 300'000; // ms for a match in fast motion, on a busy machine without a graphics card
+constexpr int matchPatience = 300'000; // ms for a match in fast motion
 const Program::Environment fastMotion{{QStringLiteral("VORBEL_SPEED"), QStringLiteral("8")}};
 
 // The court is darker than the bar's fill, whatever the power.
@@ -71,7 +63,7 @@ public:
         press("Right", 5);
         EXPECT_TRUE(pressSpace()) << "power swings";
         keepPicture(QStringLiteral("power"));
-        EXPECT_TRUE(waitUntil([this] { return powerIsUp(); }, 20'000)) << "power swings up";
+        EXPECT_TRUE(waitUntil([this] { return powerIsUp(); })) << "power swings up";
         EXPECT_TRUE(pressSpace()) << "thrown";
         keepPicture(QStringLiteral("thrown"));
     }
@@ -80,7 +72,9 @@ public:
     [[nodiscard]] bool play(const Program& game) {
         look();
         if (redOnTurn()) {
-            if (!seesPower(barStart) || seesPower(barMiddle)) {
+            const bool powerSwings = seesPower(barStart);
+            const bool powerIsEnough = seesPower(barMiddle);
+            if (!powerSwings || powerIsEnough) {
                 pressSpace();
             }
         } else if (!blueOnTurn()) {
@@ -104,14 +98,9 @@ private:
 
     // Whether the window shows an effect: each stage of a throw has a message of its own.
     bool pressSpace() {
-        const QImage before = picture_.copy(messageLine);
-        press("space");
-        return waitUntil(
-            [this, &before] {
-                look();
-                return picture_.copy(messageLine) != before;
-            },
-            10'000);
+        const bool changed = desktop_.pressUntilChanged(QStringLiteral("space"), messageLine);
+        look();
+        return changed;
     }
 
     Desktop& desktop_ = Desktop::instance();
@@ -136,24 +125,24 @@ TEST(MatchTest, AMatchAgainstTheComputerIsPlayedToItsResultWithTheKeyboardAlone)
         player.look();
         return player.seesAnything();
     };
-    ASSERT_TRUE(waitUntil(seesAnything, 20'000));
+    ASSERT_TRUE(waitUntil(seesAnything));
     player.keepPicture(QStringLiteral("menu"));
     Desktop::instance().startMatch();
-    ASSERT_TRUE(waitUntil(sees(court, courtGreen), 20'000));
+    ASSERT_TRUE(waitUntil(sees(court, courtGreen)));
     ASSERT_TRUE(player.redOnTurn());
 
     player.throwJack();
     player.press("Tab", 6); // red's switch, the four levels, blue's switch
     player.press("Return");
-    EXPECT_TRUE(waitUntil(sees(blueSwitch, blue), 10'000)) << "blue's switch";
+    EXPECT_TRUE(waitUntil(sees(blueSwitch, blue))) << "blue's switch";
 
-    EXPECT_TRUE(waitUntil([&] { return player.play(game); }, patience)) << "the match does not end";
+    EXPECT_TRUE(waitUntil([&] { return player.play(game); }, matchPatience)) << "the match does not end";
     player.keepPicture(QStringLiteral("result"));
     EXPECT_EQ(game.storedInteger(QStringLiteral("boccia_gamesPlayed")), 1);
 
     player.press("Return"); // to the main menu
     Desktop::instance().startMatch();
-    EXPECT_TRUE(waitUntil(sees(redBorder, red), 20'000)) << "the next match begins with red's jack";
+    EXPECT_TRUE(waitUntil(sees(redBorder, red))) << "the next match begins with red's jack";
     EXPECT_TRUE(game.isRunning());
     EXPECT_EQ(game.errors(), QString());
 }

@@ -18,13 +18,11 @@ namespace vorbel {
 
 namespace {
 
-constexpr int patience = 20'000; // ms, on a busy machine without a graphics card
 constexpr QRect windowed(57, 43, 1234, 855);
 constexpr QPoint inCourt(617, 480);    // of the window
 constexpr QPoint inMenuBar(700, 15);   // of the window, in full screen of the screen too
 constexpr QPoint inGameMenu(150, 136); // below the bar, in the menu's own ground
 
-const QColor courtGreen(42, 160, 96);
 const QColor barColor(0x16, 0x16, 0x1f);
 const QColor menuColor(0x22, 0x22, 0x2e);
 
@@ -40,10 +38,10 @@ protected:
         game.emplace(QStringList());
         window = GameWindow::find();
         ASSERT_TRUE(window) << qUtf8Printable(game->errors());
-        ASSERT_TRUE(waitUntil([this] { return showsBar(window->frame().topLeft()); }, patience));
+        ASSERT_TRUE(waitUntil([this] { return showsBar(window->frame().topLeft()); }));
         window->place(windowed);
-        ASSERT_TRUE(waitUntil([this] { return window->frame().size() == windowed.size(); }, patience));
-        ASSERT_TRUE(waitUntil([this] { return showsBar(window->frame().topLeft()); }, patience));
+        ASSERT_TRUE(waitUntil([this] { return window->frame().size() == windowed.size(); }));
+        ASSERT_TRUE(waitUntil([this] { return showsBar(window->frame().topLeft()); }));
         frame = window->frame();
         decoration = window->decoration();
         ASSERT_EQ(decoration.contains(QStringLiteral("EXTENTS(CARDINAL)")), GetParam());
@@ -62,16 +60,13 @@ protected:
     [[nodiscard]] bool showsCourt() const { return alike(seenAt(frame.topLeft() + inCourt), courtGreen); }
 
     [[nodiscard]] bool coversScreen() const {
-        return waitUntil(
-            [this] {
-                return window->frame() == QGuiApplication::primaryScreen()->geometry() &&
-                       window->decoration() != decoration;
-            },
-            patience);
+        return waitUntil([this] {
+            return window->frame() == QGuiApplication::primaryScreen()->geometry() &&
+                   window->decoration() != decoration;
+        });
     }
     [[nodiscard]] bool isAsBefore() const {
-        return waitUntil([this] { return window->frame() == frame && window->decoration() == decoration; },
-                         patience);
+        return waitUntil([this] { return window->frame() == frame && window->decoration() == decoration; });
     }
 
     void keepPicture(const QString& name) const {
@@ -84,10 +79,8 @@ protected:
 
     // From the main menu, which is open at first, into a match.
     [[nodiscard]] bool startMatch() {
-        for (int screen = 0; screen < 3; ++screen) { // main, country, class
-            press("Return");
-        }
-        return waitUntil([this] { return showsCourt(); }, patience);
+        Desktop::instance().startMatch();
+        return waitUntil([this] { return showsCourt(); });
     }
 
 private:
@@ -112,7 +105,7 @@ TEST(ShellStart, InAStoredLanguageTheFirstResizeFindsAllControlsInPlace) {
         const auto window = GameWindow::find();
         ASSERT_TRUE(window);
         window->place(windowed);
-        EXPECT_TRUE(waitUntil([&] { return window->frame().size() == windowed.size(); }, patience));
+        EXPECT_TRUE(waitUntil([&] { return window->frame().size() == windowed.size(); }));
         EXPECT_TRUE(game.isRunning());
     }
 }
@@ -138,7 +131,7 @@ TEST_P(ShellTest, EscapeLeavesFullScreenInEveryStateAndDoesNothingWithoutIt) {
         ASSERT_TRUE(coversScreen());
         if (menuOpen) {
             press("F10");
-            ASSERT_TRUE(waitUntil([] { return seenAt(inGameMenu) == menuColor; }, patience));
+            ASSERT_TRUE(waitUntil([] { return seenAt(inGameMenu) == menuColor; }));
         }
         press("Escape");
         EXPECT_TRUE(isAsBefore()) << menuOpen;
@@ -149,23 +142,23 @@ TEST_P(ShellTest, EscapeLeavesFullScreenInEveryStateAndDoesNothingWithoutIt) {
 TEST_P(ShellTest, TheMenuBarIsHiddenInFullScreenAndSlidesInAtTheUpperEdge) {
     press("F11");
     ASSERT_TRUE(coversScreen());
-    EXPECT_TRUE(waitUntil([] { return !showsBar({0, 0}); }, patience));
+    EXPECT_TRUE(waitUntil([] { return !showsBar({0, 0}); }));
     movePointer({600, 0});
-    EXPECT_TRUE(waitUntil([] { return showsBar({0, 0}); }, patience));
+    EXPECT_TRUE(waitUntil([] { return showsBar({0, 0}); }));
     keepPicture(QStringLiteral("upper-edge"));
     movePointer({600, 700});
-    EXPECT_TRUE(waitUntil([] { return !showsBar({0, 0}); }, patience));
+    EXPECT_TRUE(waitUntil([] { return !showsBar({0, 0}); }));
     keepPicture(QStringLiteral("full-screen"));
     press("Escape");
     EXPECT_TRUE(isAsBefore());
-    EXPECT_TRUE(waitUntil([this] { return showsBar(frame.topLeft()); }, patience));
+    EXPECT_TRUE(waitUntil([this] { return showsBar(frame.topLeft()); }));
 }
 
 TEST_P(ShellTest, CtrlNDuringAMatchOpensTheMainMenuAndStartsNothing) {
     ASSERT_TRUE(startMatch());
     press("space");
     press("ctrl+n");
-    EXPECT_TRUE(waitUntil([this] { return !showsCourt(); }, patience));
+    EXPECT_TRUE(waitUntil([this] { return !showsCourt(); }));
     keepPicture(QStringLiteral("ctrl-n"));
     EXPECT_EQ(game->storedInteger(QStringLiteral("boccia_gamesPlayed")), 0);
     EXPECT_TRUE(startMatch()) << "the main menu can be gone through again";
@@ -174,11 +167,11 @@ TEST_P(ShellTest, CtrlNDuringAMatchOpensTheMainMenuAndStartsNothing) {
 TEST_P(ShellTest, TheGameMenuIsUsedWithTheKeyboardAlone) {
     ASSERT_TRUE(startMatch());
     press("F10");
-    ASSERT_TRUE(waitUntil([this] { return seenAt(frame.topLeft() + inGameMenu) == menuColor; }, patience));
+    ASSERT_TRUE(waitUntil([this] { return seenAt(frame.topLeft() + inGameMenu) == menuColor; }));
     keepPicture(QStringLiteral("menu"));
     press("Down"); // from a new game to the rules
     press("Return");
-    EXPECT_TRUE(waitUntil([this] { return !showsCourt(); }, patience));
+    EXPECT_TRUE(waitUntil([this] { return !showsCourt(); }));
     keepPicture(QStringLiteral("rules"));
     press("F10");
     for (int item = 0; item < 3; ++item) { // rules, about, full screen

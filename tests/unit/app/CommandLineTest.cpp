@@ -1,8 +1,7 @@
-#include "app/CommandLine.h"
+#include "app/command_line/CommandLine.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <vector>
 
 namespace vorbel {
@@ -17,13 +16,6 @@ CommandLine parse(std::vector<std::string> arguments) {
         pointers.push_back(argument.data());
     }
     return CommandLine::parse(pointers);
-}
-
-double speedFor(const char* value) {
-    setenv("VORBEL_SPEED", value, 1);
-    const double speed = speedFromEnvironment();
-    unsetenv("VORBEL_SPEED");
-    return speed;
 }
 
 } // namespace
@@ -61,14 +53,6 @@ TEST(CommandLineTest, HelpNamesEveryOption) {
     for (const char* option :
          {"--help", "--version", "--demo", "--screenshots", "--screenshot FILE", "VORBEL_SPEED"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
-    }
-}
-
-TEST(CommandLineTest, ASpeedThatIsNoSensibleNumberIsIgnored) {
-    EXPECT_EQ(speedFor("8"), 8);
-    EXPECT_EQ(speedFor("0.5"), 0.5);
-    for (const char* nonsense : {"", "fast", "8x", "0", "-3", "1000", "nan"}) {
-        EXPECT_EQ(speedFor(nonsense), 1) << nonsense;
     }
 }
 

@@ -1,4 +1,4 @@
-#include "app/Texts.h"
+#include "app/text/Texts.h"
 #include "tests/unit/app/ViewFixture.h"
 
 namespace vorbel {
@@ -6,12 +6,6 @@ namespace vorbel {
 class HudModelTest : public ViewTest {
 protected:
     const HudModel& hud = *view.hud();
-
-    void speak(AppLanguage language) {
-        view.setSelectedLanguage(language);
-        letQueueRun();
-        letQueueRun(); // the language first, then what follows from it
-    }
 };
 
 TEST_F(HudModelTest, ShowsTheStartOfAMatchBeforeAnythingHappens) {
@@ -41,7 +35,7 @@ TEST_F(HudModelTest, ChangingTheLanguageChangesAllTextsAtOnceAndTheMessageAtItsN
     EXPECT_EQ(hud.powerCaption(), QStringLiteral("Throw power"));
     EXPECT_EQ(hud.message(), QStringLiteral("Нажмите [ПРОБЕЛ] для начала прицеливания"));
     hideMenu();
-    view.pressAction();
+    keyboard.pressAction();
     letQueueRun();
     EXPECT_EQ(hud.message(), text("msg.aimingHint", AppLanguage::en));
 }
@@ -60,7 +54,7 @@ TEST_F(HudModelTest, EveryLanguageHasItsOwnTextForEachPartOfTheDisplay) {
 TEST_F(HudModelTest, OnlyTheRampClassGetsTheRampHint) {
     speak(AppLanguage::en);
     for (const BocciaClass sportClass : allBocciaClasses) {
-        view.setSelectedClass(sportClass);
+        settings.setSelectedClass(sportClass);
         letQueueRun();
         EXPECT_EQ(hud.rampHint().isEmpty(), sportClass != BocciaClass::bc3);
     }
@@ -68,12 +62,15 @@ TEST_F(HudModelTest, OnlyTheRampClassGetsTheRampHint) {
 
 TEST_F(HudModelTest, TheTournamentLineIsShownWhileATournamentRuns) {
     speak(AppLanguage::en);
-    match.tournamentActive = true;
-    match.tournamentRound = 2;
+    match.startTournament(Country::japan);
+    finishMatch(5, 2);
+    view.menu()->goOn();
     letQueueRun();
-    EXPECT_TRUE(hud.tournament().startsWith(QStringLiteral("Tournament 2")))
-        << qUtf8Printable(hud.tournament());
-    match.tournamentActive = false;
+    EXPECT_EQ(
+        hud.tournament(),
+        QStringLiteral("Tournament 2/4 · %1 (Medium)").arg(text(key(match.blueCountry), AppLanguage::en)));
+    finishMatch(1, 2);
+    view.menu()->goOn();
     letQueueRun();
     EXPECT_TRUE(hud.tournament().isEmpty());
 }
@@ -81,21 +78,21 @@ TEST_F(HudModelTest, TheTournamentLineIsShownWhileATournamentRuns) {
 TEST_F(HudModelTest, ThePowerBarIsShownOnlyWhileThePowerSwings) {
     view.appear();
     hideMenu();
-    view.pressAction();
+    keyboard.pressAction();
     letQueueRun();
     EXPECT_FALSE(hud.powerShown());
-    view.pressAction();
+    keyboard.pressAction();
     platform.queue.advance(0.2);
     EXPECT_TRUE(hud.powerShown());
     EXPECT_EQ(hud.power(), match.aimPower);
     EXPECT_GT(hud.power(), 10);
-    view.pressAction();
+    keyboard.pressAction();
     letQueueRun();
     EXPECT_FALSE(hud.powerShown());
 }
 
 TEST_F(HudModelTest, NobodyIsOnTurnAfterAnEnd) {
-    match.phase = GamePhase::endOver;
+    playEnd();
     letQueueRun();
     EXPECT_FALSE(hud.redOnTurn());
     EXPECT_FALSE(hud.blueOnTurn());

@@ -1,5 +1,5 @@
 // The career lines of the main menu and the diary's screen.
-#include "app/Texts.h"
+#include "app/text/Texts.h"
 #include "tests/unit/app/ViewFixture.h"
 
 #include <QDateTime>
@@ -9,15 +9,14 @@ namespace vorbel {
 
 class MenuCareerTest : public ViewTest {
 protected:
-    MenuCareer& career = *view.menu()->career();
-    MenuDiary& diary = *career.diary();
+    MenuCareer& lines = *view.menu()->career();
+    MenuDiary& diary = *lines.diary();
 
-    MenuCareerTest() { view.setSelectedLanguage(AppLanguage::en); }
+    MenuCareerTest() { settings.setSelectedLanguage(AppLanguage::en); }
 
     void played(int matches) { defaults.setInteger("boccia_gamesPlayed", matches); }
     void finishAnotherMatch(int red, int blue) {
-        match.phase = GamePhase::throwingJack;
-        letQueueRun();
+        view.menu()->goOn();
         finishMatch(red, blue);
     }
     [[nodiscard]] QString shown(int row, MenuDiary::Role role) const {
@@ -26,46 +25,46 @@ protected:
 };
 
 TEST_F(MenuCareerTest, TheFirstRankIsNovice) {
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: Novice"));
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 0 · to next rank: 3"));
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: Novice"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 0 · to next rank: 3"));
 }
 
 TEST_F(MenuCareerTest, WithTwoMatchesOneMoreIsNeededForTheNextRank) {
     played(2);
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: Novice"));
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 2 · to next rank: 1"));
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: Novice"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 2 · to next rank: 1"));
 }
 
 TEST_F(MenuCareerTest, WithThreeMatchesTheNextRankIsThreeMoreAway) {
     played(3);
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: 3rd Junior Class"));
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 3 · to next rank: 3"));
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: 3rd Junior Class"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 3 · to next rank: 3"));
 }
 
 TEST_F(MenuCareerTest, WithFiftyNineMatchesOneMoreIsNeededForTheTopRank) {
     played(59);
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: Candidate Master of Sport"));
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 59 · to next rank: 1"));
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: Candidate Master of Sport"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 59 · to next rank: 1"));
 }
 
 TEST_F(MenuCareerTest, FromSixtyMatchesOnTheTopRankIsReached) {
     for (const int matches : {60, 61, 1000}) {
         played(matches);
-        EXPECT_EQ(career.rank(), QStringLiteral("Rank: Master of Sport"));
-        EXPECT_EQ(career.games(), QStringLiteral("Matches played: %1 · max rank reached").arg(matches));
+        EXPECT_EQ(lines.rank(), QStringLiteral("Rank: Master of Sport"));
+        EXPECT_EQ(lines.games(), QStringLiteral("Matches played: %1 · max rank reached").arg(matches));
     }
 }
 
 TEST_F(MenuCareerTest, TheRankDependsOnMatchesAlone) {
     played(3);
     defaults.setInteger("boccia_athleteXP", 500);
-    view.setRealAthlete(true);
-    EXPECT_EQ(career.rank(), QStringLiteral("Rank: 3rd Junior Class"));
+    career.setRealAthlete(true);
+    EXPECT_EQ(lines.rank(), QStringLiteral("Rank: 3rd Junior Class"));
 }
 
 TEST_F(MenuCareerTest, TheAthleteSwitchIsKeptForTheNextLaunch) {
-    EXPECT_FALSE(career.isRealAthlete());
-    career.setRealAthlete(true);
+    EXPECT_FALSE(lines.isRealAthlete());
+    lines.setRealAthlete(true);
     EXPECT_EQ(defaults.boolean("boccia_isRealAthlete"), true);
     ContentView next(platform.services(), defaults);
     EXPECT_TRUE(next.menu()->career()->isRealAthlete());
@@ -75,17 +74,17 @@ TEST_F(MenuCareerTest, TheAthleteSwitchIsKeptForTheNextLaunch) {
 
 TEST_F(MenuCareerTest, TheCareerLinesFollowEachMatchAndSwitch) {
     int changes = 0;
-    QObject::connect(&career, &MenuCareer::changed, &view, [&changes] { ++changes; });
-    career.setRealAthlete(true);
+    QObject::connect(&lines, &MenuCareer::changed, &view, [&changes] { ++changes; });
+    lines.setRealAthlete(true);
     EXPECT_EQ(changes, 1);
     finishMatch(5, 2);
     EXPECT_EQ(changes, 2);
-    EXPECT_EQ(career.games(), QStringLiteral("Matches played: 1 · to next rank: 2"));
-    EXPECT_EQ(career.totalXP(), QStringLiteral("Experience (XP): 1"));
+    EXPECT_EQ(lines.games(), QStringLiteral("Matches played: 1 · to next rank: 2"));
+    EXPECT_EQ(lines.totalXP(), QStringLiteral("Experience (XP): 1"));
 }
 
 TEST_F(MenuCareerTest, TheDiaryShowsTheNewestMatchFirst) {
-    career.setRealAthlete(true);
+    lines.setRealAthlete(true);
     finishMatch(5, 2);
     finishAnotherMatch(1, 2);
     view.menu()->openDiary();
@@ -108,19 +107,19 @@ TEST_F(MenuCareerTest, ADateIsShownInTheSystemsShortForm) {
 }
 
 TEST_F(MenuCareerTest, AResultIsStoredAsAKeyAndShownInThePlayersLanguage) {
-    career.setRealAthlete(true);
+    lines.setRealAthlete(true);
     finishMatch(5, 2);
     view.menu()->openDiary();
     int changes = 0;
     QObject::connect(&diary, &MenuDiary::dataChanged, &view, [&changes] { ++changes; });
-    view.setSelectedLanguage(AppLanguage::de);
+    settings.setSelectedLanguage(AppLanguage::de);
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(shown(0, MenuDiary::resultRole),
               text("diary.entry.format", AppLanguage::de, {L10n::t("diary.win", AppLanguage::de), "1"}));
 }
 
 TEST_F(MenuCareerTest, ACorruptedDiaryIsShownAsEmptyAndHoldsOnlyTheNextMatch) {
-    career.setRealAthlete(true);
+    lines.setRealAthlete(true);
     defaults.setBytes("boccia_diaryData", "[{\"id\":");
     view.menu()->openDiary();
     EXPECT_TRUE(diary.isEmpty());
@@ -131,7 +130,7 @@ TEST_F(MenuCareerTest, ACorruptedDiaryIsShownAsEmptyAndHoldsOnlyTheNextMatch) {
 }
 
 TEST_F(MenuCareerTest, AnUnchangedDiaryIsNotReadAgain) {
-    career.setRealAthlete(true);
+    lines.setRealAthlete(true);
     finishMatch(5, 2);
     view.menu()->openDiary();
     int readings = 0;

@@ -1,6 +1,8 @@
 // The screen after a match: what it shows, and how it goes on from there.
 #include "tests/unit/app/ViewFixture.h"
 
+#include <numeric>
+
 namespace vorbel {
 
 class MenuResultTest : public ViewTest {
@@ -9,21 +11,20 @@ protected:
     MenuResult& result = *menu.result();
 
     MenuResultTest() {
-        view.setSelectedLanguage(AppLanguage::en);
-        letQueueRun();
+        speak(AppLanguage::en);
         hideMenu();
     }
 
-    void finishTournamentMatch(int round, int red, int blue) {
-        match.tournamentActive = true;
-        match.tournamentRound = round;
-        finishMatch(red, blue);
+    void reachRound(int round) {
+        for (match.startTournament(Country::france); match.tournamentRound < round; menu.goOn()) {
+            finishMatch(5, 2);
+        }
     }
 };
 
 TEST_F(MenuResultTest, IsShownWhenAMatchEnds) {
     finishMatch(5, 2);
-    EXPECT_EQ(view.menuScreen(), MenuScreen::matchResult);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::matchResult);
     EXPECT_EQ(result.title(), QStringLiteral("Match Result"));
     EXPECT_EQ(result.redScore(), 5);
     EXPECT_EQ(result.blueScore(), 2);
@@ -33,19 +34,24 @@ TEST_F(MenuResultTest, IsShownWhenAMatchEnds) {
 }
 
 TEST_F(MenuResultTest, ListsEachEndWithBothSidesPoints) {
-    match.endHistory = std::vector<EndResult>{{1, 2, 0}, {2, 0, 1}, {3, 0, 0}, {4, 3, 0}};
-    finishMatch(5, 1);
-    EXPECT_EQ(result.ends(), QStringList({QStringLiteral("End 1"), QStringLiteral("End 2"),
-                                          QStringLiteral("End 3"), QStringLiteral("End 4")}));
-    EXPECT_EQ(result.redPoints(), QList<int>({2, 0, 0, 3}));
-    EXPECT_EQ(result.bluePoints(), QList<int>({0, 1, 0, 0}));
+    playMatch();
+    letQueueRun();
+    const std::vector<EndResult>& history = match.endHistory;
+    ASSERT_GE(history.size(), 4U);
+    ASSERT_EQ(result.ends().size(), static_cast<int>(history.size()));
+    EXPECT_EQ(result.ends().mid(0, 4), QStringList({QStringLiteral("End 1"), QStringLiteral("End 2"),
+                                                    QStringLiteral("End 3"), QStringLiteral("End 4")}));
+    for (int i = 0; i < result.ends().size(); ++i) {
+        EXPECT_EQ(result.redPoints()[i], history[static_cast<std::size_t>(i)].red);
+        EXPECT_EQ(result.bluePoints()[i], history[static_cast<std::size_t>(i)].blue);
+    }
+    EXPECT_EQ(std::accumulate(result.redPoints().begin(), result.redPoints().end(), 0), result.redScore());
+    EXPECT_EQ(std::accumulate(result.bluePoints().begin(), result.bluePoints().end(), 0), result.blueScore());
 }
 
 TEST_F(MenuResultTest, FollowsTheLanguageWhileItIsShown) {
     finishMatch(5, 2);
-    view.setSelectedLanguage(AppLanguage::ru);
-    letQueueRun();
-    letQueueRun();
+    speak(AppLanguage::ru);
     EXPECT_EQ(result.winner(), QString::fromStdString(match.matchWinnerTitle()));
     EXPECT_EQ(result.redName(), QString::fromStdString(match.t("team.red")));
 }
@@ -54,7 +60,7 @@ TEST_F(MenuResultTest, OfASingleMatchLeadsToTheMainMenuWithANewMatchBehindIt) {
     finishMatch(5, 2);
     EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Main Menu"));
     menu.goOn();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     EXPECT_EQ(match.phase, GamePhase::throwingJack);
     EXPECT_EQ(match.redScore, 0);
 }
@@ -62,40 +68,42 @@ TEST_F(MenuResultTest, OfASingleMatchLeadsToTheMainMenuWithANewMatchBehindIt) {
 TEST_F(MenuResultTest, OfAWonRoundLeadsToTheNextRound) {
     for (const int round : {1, 2, 3}) {
         hideMenu();
-        finishTournamentMatch(round, 5, 2);
+        reachRound(round);
+        finishMatch(5, 2);
         EXPECT_EQ(result.tournament(), QStringLiteral("Tournament"));
         EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Next Round"));
         menu.goOn();
-        EXPECT_EQ(view.menuScreen(), MenuScreen::hidden);
+        EXPECT_EQ(openMenu.menuScreen(), MenuScreen::hidden);
         EXPECT_EQ(match.tournamentRound, round + 1);
         EXPECT_TRUE(match.tournamentActive);
-        letQueueRun();
     }
 }
 
 TEST_F(MenuResultTest, OfTheLastRoundLeadsToTheMainMenuAsChampion) {
-    finishTournamentMatch(4, 5, 2);
+    reachRound(4);
+    finishMatch(5, 2);
     EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Main Menu"));
     menu.goOn();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     EXPECT_FALSE(match.tournamentActive);
     EXPECT_EQ(match.message.get(), "TOURNAMENT CHAMPION! You won all 4 rounds! [SPACE] for a new game");
 }
 
 TEST_F(MenuResultTest, OfALostRoundLeadsToTheMainMenu) {
-    finishTournamentMatch(2, 1, 2);
+    reachRound(2);
+    finishMatch(1, 2);
     EXPECT_EQ(result.tournament(), QStringLiteral("Tournament"));
     EXPECT_EQ(result.matchResultButtonLabel(), QStringLiteral("Main Menu"));
     menu.goOn();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     EXPECT_FALSE(match.tournamentActive);
 }
 
 TEST_F(MenuResultTest, StaysAsItIsWhileSpaceIsPressed) {
     finishMatch(5, 2);
-    view.pressAction();
+    keyboard.pressAction();
     letQueueRun();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::matchResult);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::matchResult);
     EXPECT_EQ(match.phase, GamePhase::gameOver);
     EXPECT_EQ(result.redScore(), 5);
 }

@@ -1,5 +1,5 @@
 // What each control of the menu does, and where it leads.
-#include "app/Texts.h"
+#include "app/text/Texts.h"
 #include "career/Diary.h"
 #include "tests/unit/app/ViewFixture.h"
 
@@ -17,19 +17,14 @@ protected:
     }
     void startTournament(Country country) {
         menu.startTournament();
-        view.setSelectedCountry(country);
+        settings.setSelectedCountry(country);
         menu.chooseClass();
         menu.play();
-    }
-    void speak(AppLanguage language) {
-        view.setSelectedLanguage(language);
-        letQueueRun();
-        letQueueRun(); // the language first, then what follows from it
     }
 };
 
 TEST_F(MenuTest, TheGameStartsWithTheMainMenu) {
-    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     EXPECT_TRUE(menu.isOpen());
     EXPECT_EQ(menu.screen(), MenuModel::Screen::Main);
 }
@@ -43,7 +38,7 @@ TEST_F(MenuTest, EveryScreenHasItsPlaceInTheListOfScreens) {
                                         {MenuScreen::diary, MenuModel::Screen::Diary},
                                         {MenuScreen::matchResult, MenuModel::Screen::MatchResult},
                                         {MenuScreen::hidden, MenuModel::Screen::Hidden}}) {
-        view.setMenuScreen(screen);
+        openMenu.setMenuScreen(screen);
         EXPECT_EQ(menu.screen(), shown);
         EXPECT_EQ(menu.isOpen(), screen != MenuScreen::hidden);
     }
@@ -51,117 +46,122 @@ TEST_F(MenuTest, EveryScreenHasItsPlaceInTheListOfScreens) {
 
 TEST_F(MenuTest, StartingAGameOrATournamentAsksForTheCountryFirst) {
     menu.startGame();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
-    EXPECT_FALSE(view.startingTournament());
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::country);
+    EXPECT_FALSE(settings.startingTournament());
     menu.back();
     menu.startTournament();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
-    EXPECT_TRUE(view.startingTournament());
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::country);
+    EXPECT_TRUE(settings.startingTournament());
     menu.back();
     menu.startGame();
-    EXPECT_FALSE(view.startingTournament());
+    EXPECT_FALSE(settings.startingTournament());
 }
 
 TEST_F(MenuTest, TheMainMenuLeadsToDiaryRulesAndAbout) {
     menu.openDiary();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::diary);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::diary);
     menu.openRules();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::rules);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::rules);
     menu.openAbout();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::about);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::about);
 }
 
 TEST_F(MenuTest, BackLeadsToTheMainMenuFromEveryScreen) {
     for (const MenuScreen screen : {MenuScreen::country, MenuScreen::bcClass, MenuScreen::rules,
                                     MenuScreen::about, MenuScreen::diary}) {
-        view.setMenuScreen(screen);
+        openMenu.setMenuScreen(screen);
         menu.back();
-        EXPECT_EQ(view.menuScreen(), MenuScreen::main);
+        EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     }
 }
 
 TEST_F(MenuTest, BackFromTheClassScreenKeepsTheChosenCountry) {
     menu.startGame();
-    view.setSelectedCountry(Country::japan);
+    settings.setSelectedCountry(Country::japan);
     menu.chooseClass();
     menu.back();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
-    EXPECT_EQ(view.selectedCountry(), Country::japan);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(settings.selectedCountry(), Country::japan);
 }
 
 TEST_F(MenuTest, ChoosingACountryOrAClassKeepsTheScreenAndTheMatch) {
     menu.startGame();
     menu.choices()->setCountryIndex(static_cast<int>(Country::peru));
     letQueueRun();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::country);
-    EXPECT_EQ(view.selectedCountry(), Country::peru);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::country);
+    EXPECT_EQ(settings.selectedCountry(), Country::peru);
     EXPECT_EQ(match.playerCountry, Country::france);
     menu.chooseClass();
     menu.choices()->setClassIndex(0);
     letQueueRun();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::bcClass);
-    EXPECT_EQ(view.selectedClass(), BocciaClass::bc1);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::bcClass);
+    EXPECT_EQ(settings.selectedClass(), BocciaClass::bc1);
     EXPECT_EQ(match.playerClass, BocciaClass::bc2);
 }
 
 TEST_F(MenuTest, PlayGivesTheMatchAllChoicesAtOnceAndHidesTheMenu) {
-    view.setSelectedLanguage(AppLanguage::fr);
+    settings.setSelectedLanguage(AppLanguage::fr);
     menu.startGame();
-    view.setSelectedCountry(Country::peru);
+    settings.setSelectedCountry(Country::peru);
     menu.chooseClass();
-    view.setSelectedClass(BocciaClass::bc3);
+    settings.setSelectedClass(BocciaClass::bc3);
     menu.play();
     EXPECT_EQ(match.playerClass, BocciaClass::bc3);
     EXPECT_EQ(match.playerCountry, Country::peru);
     EXPECT_EQ(match.language, AppLanguage::fr);
-    EXPECT_EQ(view.menuScreen(), MenuScreen::hidden);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::hidden);
 }
 
 TEST_F(MenuTest, ASingleMatchBeginsWithTheFirstMessageInThePlayersLanguage) {
-    view.setSelectedLanguage(AppLanguage::en);
+    settings.setSelectedLanguage(AppLanguage::en);
     startSingleMatch();
     EXPECT_EQ(match.message.get(), "Press [SPACE] to start aiming");
     EXPECT_FALSE(match.tournamentActive);
 }
 
 TEST_F(MenuTest, InRussianTheMessageOfTheMatchStaysAsItIs) {
-    match.message = "Шар в игре...";
+    const std::string first = match.message;
+    throwJack();
+    const std::string later = match.message;
+    ASSERT_NE(later, first);
     startSingleMatch();
-    EXPECT_EQ(match.message.get(), "Шар в игре...");
+    EXPECT_EQ(match.message.get(), later);
 }
 
 TEST_F(MenuTest, ASingleMatchResetsNothing) {
-    match.redScore = 3;
-    match.currentEnd = 2;
-    match.tournamentActive = true;
-    view.setSelectedLanguage(AppLanguage::en);
+    match.startTournament(Country::france);
+    playEnd();
+    keyboard.pressAction();
+    const int points = match.redScore + match.blueScore;
+    ASSERT_GT(points, 0);
+    settings.setSelectedLanguage(AppLanguage::en);
     startSingleMatch();
-    EXPECT_EQ(match.redScore, 3);
+    EXPECT_EQ(match.redScore + match.blueScore, points);
     EXPECT_EQ(match.currentEnd, 2);
     EXPECT_TRUE(match.tournamentActive);
 }
 
 TEST_F(MenuTest, ATournamentIsPlayedByTheHumanInRedAgainstTheComputer) {
-    view.setRedAIOn(true);
-    view.setSelectedLanguage(AppLanguage::en);
+    settings.setRedAIOn(true);
+    settings.setSelectedLanguage(AppLanguage::en);
     letQueueRun();
     startTournament(Country::russia);
-    EXPECT_FALSE(view.redAIOn());
-    EXPECT_TRUE(view.blueAIOn());
+    EXPECT_FALSE(settings.redAIOn());
+    EXPECT_TRUE(settings.blueAIOn());
     EXPECT_FALSE(match.redIsAI);
     EXPECT_TRUE(match.blueIsAI);
     EXPECT_TRUE(match.tournamentActive);
     EXPECT_EQ(match.tournamentRound, 1);
     EXPECT_EQ(match.aiDifficulty, AIDifficulty::easy);
     EXPECT_EQ(match.playerCountry, Country::russia);
-    EXPECT_EQ(view.menuScreen(), MenuScreen::hidden);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::hidden);
     letQueueRun();
     EXPECT_FALSE(match.redIsAI);
     EXPECT_TRUE(match.blueIsAI);
 }
 
 TEST_F(MenuTest, TheOpponentThatATournamentAnnouncesIsTheOneThatPlays) {
-    view.setSelectedLanguage(AppLanguage::en);
+    settings.setSelectedLanguage(AppLanguage::en);
     startTournament(Country::france);
     const Country announced = match.blueCountry;
     letQueueRun();
@@ -171,16 +171,16 @@ TEST_F(MenuTest, TheOpponentThatATournamentAnnouncesIsTheOneThatPlays) {
 
 TEST_F(MenuTest, ChoicesLastUntilTheProgramEnds) {
     menu.startGame();
-    view.setSelectedCountry(Country::egypt);
-    view.setSelectedClass(BocciaClass::bc1);
+    settings.setSelectedCountry(Country::egypt);
+    settings.setSelectedClass(BocciaClass::bc1);
     menu.chooseClass();
     menu.play();
     finishMatch(1, 0);
     menu.goOn();
-    EXPECT_EQ(view.selectedCountry(), Country::egypt);
-    EXPECT_EQ(view.selectedClass(), BocciaClass::bc1);
-    const ContentView next(platform.services(), defaults);
-    EXPECT_EQ(next.selectedCountry(), Country::france);
+    EXPECT_EQ(settings.selectedCountry(), Country::egypt);
+    EXPECT_EQ(settings.selectedClass(), BocciaClass::bc1);
+    ContentView next(platform.services(), defaults);
+    EXPECT_EQ(next.settings()->selectedCountry(), Country::france);
 }
 
 TEST_F(MenuTest, WithoutALogoThereIsNoPictureToLoad) {
@@ -193,9 +193,9 @@ TEST_F(MenuTest, PlacesOutsideAListAreIgnored) {
         menu.choices()->setCountryIndex(nowhere);
         menu.choices()->setClassIndex(nowhere);
     }
-    EXPECT_EQ(view.selectedLanguage(), AppLanguage::ru);
-    EXPECT_EQ(view.selectedCountry(), Country::france);
-    EXPECT_EQ(view.selectedClass(), BocciaClass::bc4);
+    EXPECT_EQ(settings.selectedLanguage(), AppLanguage::ru);
+    EXPECT_EQ(settings.selectedCountry(), Country::france);
+    EXPECT_EQ(settings.selectedClass(), BocciaClass::bc4);
 }
 
 TEST_F(MenuTest, TheListsHoldAllLanguagesCountriesAndClassesInTheirOrder) {
@@ -235,7 +235,7 @@ TEST_F(MenuTest, AllTextsFollowTheLanguageAtOnce) {
 }
 
 TEST_F(MenuTest, AnArabicTextThatBeginsWithALatinNameIsStillLaidOutFromTheRight) {
-    view.setSelectedLanguage(AppLanguage::ar);
+    settings.setSelectedLanguage(AppLanguage::ar);
     EXPECT_FALSE(text("about.text", AppLanguage::ar).isRightToLeft());
     EXPECT_TRUE(menu.texts()->aboutText().isRightToLeft());
     EXPECT_EQ(menu.texts()->rulesText(), text("rules.text", AppLanguage::ar));

@@ -7,48 +7,53 @@ protected:
     int refreshes = 0;
 
     RefreshTest() {
-        QObject::connect(&view, &ContentView::refreshed, &view, [this] { ++refreshes; });
+        hideMenu();
+        QObject::connect(&view.changes(), &MatchChanges::changed, &view, [this] { ++refreshes; });
     }
 };
 
 TEST_F(RefreshTest, ABurstOfChangesIsShownOnce) {
-    match.message = "a";
-    match.redScore = 2;
-    match.message = "b";
+    const QString before = view.hud()->message();
+    keyboard.pressAction(); // aims
+    keyboard.pressAction(); // lets the power swing
     EXPECT_EQ(refreshes, 0);
+    EXPECT_EQ(view.hud()->message(), before);
     letQueueRun();
     EXPECT_EQ(refreshes, 1);
-    EXPECT_EQ(view.hud()->message(), QStringLiteral("b"));
-    EXPECT_EQ(view.hud()->redScore(), 2);
+    EXPECT_EQ(view.hud()->message(), QString::fromStdString(match.message));
+    EXPECT_TRUE(view.hud()->powerShown());
 }
 
 TEST_F(RefreshTest, ChangesWaitWhileAPictureIsBeingDrawn) {
-    view.holdRefreshes();
-    match.redScore = 1;
+    view.changes().hold();
+    keyboard.pressAction(); // aims
     letQueueRun();
-    match.redScore = 2;
+    keyboard.pressAction(); // lets the power swing
     letQueueRun();
     EXPECT_EQ(refreshes, 0);
-    view.releaseRefreshes();
+    view.changes().release();
     EXPECT_EQ(refreshes, 1);
-    EXPECT_EQ(view.hud()->redScore(), 2);
-    match.redScore = 3;
+    EXPECT_TRUE(view.hud()->powerShown());
+    keyboard.pressAction(); // throws
     letQueueRun();
-    EXPECT_EQ(view.hud()->redScore(), 3);
+    EXPECT_EQ(refreshes, 2);
+    EXPECT_FALSE(view.hud()->powerShown());
 }
 
 TEST_F(RefreshTest, APictureThatBeginsAfterTheChangeHoldsItBackToo) {
-    match.redScore = 1;
-    view.holdRefreshes();
+    keyboard.pressAction();
+    view.changes().hold();
     letQueueRun();
     EXPECT_EQ(refreshes, 0);
-    view.releaseRefreshes();
-    EXPECT_EQ(view.hud()->redScore(), 1);
+    view.changes().release();
+    EXPECT_EQ(view.hud()->message(), QString::fromStdString(match.message));
 }
 
-TEST_F(RefreshTest, TheViewTicksWithTheMatch) {
+TEST_F(RefreshTest, TheMatchTicksFromTheFirstAppearanceOn) {
     int ticks = 0;
-    QObject::connect(&view, &ContentView::ticked, &view, [&ticks] { ++ticks; });
+    const Subscription counting = match.onTick([&ticks] { ++ticks; });
+    platform.queue.advance(1);
+    EXPECT_EQ(ticks, 0);
     view.appear();
     platform.queue.advance(1);
     EXPECT_EQ(ticks, 50);
@@ -56,10 +61,9 @@ TEST_F(RefreshTest, TheViewTicksWithTheMatch) {
 
 TEST_F(RefreshTest, ThePointerTurnsToTheAimWithinATenthOfASecond) {
     view.appear();
-    hideMenu();
-    view.pressAction();
-    view.pressRight();
-    view.pressUp();
+    keyboard.pressAction();
+    keyboard.pressRight();
+    keyboard.pressUp();
     const Quat target = rotationFromEuler({0.05, -0.05, 0});
     const auto distanceToTarget = [this, &target] {
         return 1 - std::abs(glm::dot(pointerOrientation(), target));
@@ -75,7 +79,8 @@ TEST_F(RefreshTest, ThePointerTurnsToTheAimWithinATenthOfASecond) {
 
 TEST_F(RefreshTest, WithoutAPointerNothingIsAnimatedAndNothingFails) {
     match.scene.root->removeChild(*match.scene.root->findChild("pointer"));
-    match.aimAngle = 0.3;
+    keyboard.pressAction();
+    keyboard.pressRight();
     letQueueRun();
     EXPECT_EQ(refreshes, 1);
 }

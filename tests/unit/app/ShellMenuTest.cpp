@@ -1,5 +1,5 @@
-#include "app/VorbelApp.h"
 #include "app/shell/NotificationCenter.h"
+#include "app/shell/VorbelApp.h"
 #include "tests/unit/app/ViewFixture.h"
 
 namespace vorbel {
@@ -16,7 +16,7 @@ QStringList titles(const VorbelApp& shell) {
 class ShellMenuTest : public ViewTest {
 protected:
     NotificationCenter notifications;
-    VorbelApp shell{view, notifications};
+    VorbelApp shell{settings, notifications};
 
     ShellMenuTest() { view.receiveNotifications(notifications); }
 };
@@ -38,37 +38,36 @@ TEST_F(ShellMenuTest, EachItemPostsItsNotification) {
 
 TEST_F(ShellMenuTest, EachNotificationOpensItsScreenFromEveryOther) {
     for (const MenuScreen before : {MenuScreen::hidden, MenuScreen::bcClass, MenuScreen::matchResult}) {
-        view.setMenuScreen(before);
+        openMenu.setMenuScreen(before);
         notifications.post("bocciaNewGameRequested");
-        EXPECT_EQ(view.menuScreen(), MenuScreen::main);
-        view.setMenuScreen(before);
+        EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
+        openMenu.setMenuScreen(before);
         notifications.post("bocciaShowRulesRequested");
-        EXPECT_EQ(view.menuScreen(), MenuScreen::rules);
-        view.setMenuScreen(before);
+        EXPECT_EQ(openMenu.menuScreen(), MenuScreen::rules);
+        openMenu.setMenuScreen(before);
         notifications.post("bocciaShowAboutRequested");
-        EXPECT_EQ(view.menuScreen(), MenuScreen::about);
+        EXPECT_EQ(openMenu.menuScreen(), MenuScreen::about);
     }
 }
 
 TEST_F(ShellMenuTest, ANewGameDuringAMatchOpensTheMainMenuAndStartsNothing) {
-    hideMenu();
-    match.redScore = 2;
-    match.blueScore = 1;
-    match.currentEnd = 3;
-    match.phase = GamePhase::playing;
-    match.redBallsLeft = 4;
-    view.pressAction();
+    playEnd();
+    keyboard.pressAction();
+    const int redScore = match.redScore;
+    const int blueScore = match.blueScore;
+    settings.setRedAIOn(false);
+    settings.setBlueAIOn(false);
+    letQueueRun();
+    keyboard.pressAction();
     ASSERT_EQ(match.aimState, AimState::aimingAngle);
     shell.requestNewGame();
     letQueueRun();
-    EXPECT_EQ(view.menuScreen(), MenuScreen::main);
-    EXPECT_EQ(match.redScore, 2);
-    EXPECT_EQ(match.blueScore, 1);
-    EXPECT_EQ(match.currentEnd, 3);
-    EXPECT_EQ(match.phase, GamePhase::playing);
-    EXPECT_EQ(match.redBallsLeft, 4);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
+    EXPECT_EQ(match.redScore, redScore);
+    EXPECT_EQ(match.blueScore, blueScore);
+    EXPECT_EQ(match.currentEnd, 2);
     EXPECT_EQ(match.aimState, AimState::aimingAngle);
-    EXPECT_EQ(view.gamesPlayed(), 0);
+    EXPECT_EQ(career.gamesPlayed(), 0);
 }
 
 TEST_F(ShellMenuTest, TitlesFollowTheLanguageAtOnce) {
@@ -76,15 +75,15 @@ TEST_F(ShellMenuTest, TitlesFollowTheLanguageAtOnce) {
     EXPECT_EQ(shell.gameMenuTitle(), QStringLiteral("Игра"));
     int changes = 0;
     QObject::connect(&shell, &VorbelApp::languageChanged, &shell, [&changes] { ++changes; });
-    view.setSelectedLanguage(AppLanguage::en);
+    settings.setSelectedLanguage(AppLanguage::en);
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(titles(shell),
               (QStringList{QStringLiteral("Game"), QStringLiteral("Start Game"), QStringLiteral("Rules"),
                            QStringLiteral("About"), QStringLiteral("Toggle Full Screen")}));
     EXPECT_FALSE(shell.rightToLeft());
-    view.setSelectedLanguage(AppLanguage::ar);
+    settings.setSelectedLanguage(AppLanguage::ar);
     EXPECT_TRUE(shell.rightToLeft());
-    view.setSelectedLanguage(AppLanguage::ru);
+    settings.setSelectedLanguage(AppLanguage::ru);
     EXPECT_EQ(titles(shell), russian);
 }
 
@@ -93,9 +92,9 @@ TEST(ShellLanguageTest, StartsWithTheStoredLanguageAndRussianWithoutOne) {
         HeadlessPlatform platform{1};
         MemoryDefaults defaults;
         defaults.setText("boccia_language", stored);
-        const ContentView view{platform.services(), defaults};
+        ContentView view{platform.services(), defaults};
         const NotificationCenter notifications;
-        EXPECT_EQ(VorbelApp(view, notifications).language(), expected);
+        EXPECT_EQ(VorbelApp(*view.settings(), notifications).language(), expected);
     }
 }
 

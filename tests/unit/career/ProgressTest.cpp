@@ -7,18 +7,18 @@
 namespace vorbel {
 
 TEST(Progress, TheFirstRankTakesThreeMatches) {
-    EXPECT_EQ(rankKey(2), "rank.novice");
+    EXPECT_EQ(rankKey(2).name(), "rank.novice");
     EXPECT_EQ(gamesToNextRank(2), 1);
-    EXPECT_EQ(rankKey(3), "rank.thirdYouth");
+    EXPECT_EQ(rankKey(3).name(), "rank.thirdYouth");
     EXPECT_EQ(gamesToNextRank(3), 3);
 }
 
 TEST(Progress, TheLastRankIsReachedWithSixtyMatches) {
-    EXPECT_EQ(rankKey(59), "rank.cms");
+    EXPECT_EQ(rankKey(59).name(), "rank.cms");
     EXPECT_EQ(gamesToNextRank(59), 1);
-    EXPECT_EQ(rankKey(60), "rank.ms");
+    EXPECT_EQ(rankKey(60).name(), "rank.ms");
     EXPECT_EQ(gamesToNextRank(60), std::nullopt);
-    EXPECT_EQ(rankKey(INT_MAX), "rank.ms");
+    EXPECT_EQ(rankKey(INT_MAX).name(), "rank.ms");
 }
 
 TEST(Progress, EveryThresholdOfTheLadderChangesTheRank) {
@@ -29,7 +29,7 @@ TEST(Progress, EveryThresholdOfTheLadderChangesTheRank) {
 }
 
 TEST(Progress, ADamagedCountReadsAsTheLowestRank) {
-    EXPECT_EQ(rankKey(-5), "rank.novice");
+    EXPECT_EQ(rankKey(-5).name(), "rank.novice");
     EXPECT_EQ(gamesToNextRank(-5), 5);
 }
 

@@ -27,8 +27,8 @@ TEST(BocciaClass, rawValuesAreUpperCase) {
 }
 
 TEST(BocciaClass, descriptionKeyNamesTheCase) {
-    EXPECT_EQ(descriptionKey(BocciaClass::bc1), "bc.desc.bc1");
-    EXPECT_EQ(descriptionKey(BocciaClass::bc4), "bc.desc.bc4");
+    EXPECT_EQ(descriptionKey(BocciaClass::bc1).name(), "bc.desc.bc1");
+    EXPECT_EQ(descriptionKey(BocciaClass::bc4).name(), "bc.desc.bc4");
     EXPECT_EQ(L10n::t(descriptionKey(BocciaClass::bc2), AppLanguage::en),
               "Cerebral palsy, higher functional level than BC1. No assistant allowed.");
 }

@@ -15,6 +15,11 @@ namespace vorbel::test {
     return std::string(rawValue(info.param));
 }
 
+// Texts of signs, placeholders and "XP" alone, which may read the same in every language.
+[[nodiscard]] inline bool isPlaceholdersAlone(std::string_view key) {
+    return key == "diary.entry.format" || key == "hud.tournament.format";
+}
+
 class EachLanguage : public testing::TestWithParam<AppLanguage> {
 protected:
     // A language without a row in the table would be shown in English throughout.
@@ -27,6 +32,9 @@ protected:
             if (const auto text = L10n::table[static_cast<std::size_t>(language)][i]; !text.empty()) {
                 texts.emplace(L10n::keys[i], text);
             }
+        }
+        for (std::size_t i = 0; i < L10n::extraKeys.size(); ++i) {
+            texts.emplace(L10n::extraKeys[i], L10n::extraTable[static_cast<std::size_t>(language)][i]);
         }
         return texts;
     }

@@ -5,7 +5,7 @@
 namespace vorbel::L10n {
 namespace {
 
-std::string filled(std::string_view key, std::initializer_list<std::string_view> arguments) {
+std::string filled(TextKey key, std::initializer_list<std::string_view> arguments) {
     return fill(t(key, AppLanguage::en), arguments);
 }
 

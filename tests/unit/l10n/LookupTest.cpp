@@ -25,20 +25,31 @@ TEST(Lookup, aTextThatTheLanguageLacksIsShownInEnglish) {
     EXPECT_EQ(t("msg.initial", AppLanguage::ru), "Press [SPACE] to start aiming");
 }
 
-TEST(Lookup, anUnknownKeyShowsAsItself) {
-    for (const AppLanguage language : allLanguages) {
-        for (const char* key :
-             {"menu.unknown", "", "menu", "menu.pla", "menu.play ", "MENU.PLAY", "zzz", "Red"}) {
-            EXPECT_EQ(t(key, language), key);
+TEST(Lookup, anUnknownKeyFromStoredDataShowsAsItself) {
+    for (const char* name :
+         {"menu.unknown", "", "menu", "menu.pla", "menu.play ", "MENU.PLAY", "zzz", "Red"}) {
+        EXPECT_EQ(TextKey::named(name), std::nullopt) << name;
+        for (const AppLanguage language : allLanguages) {
+            EXPECT_EQ(tNamed(name, language), name);
         }
     }
+}
+
+TEST(Lookup, aKnownKeyFromStoredDataShowsItsText) {
+    for (const std::string_view name : keys) {
+        const auto key = TextKey::named(name);
+        ASSERT_TRUE(key) << name;
+        EXPECT_EQ(key->name(), name);
+        EXPECT_EQ(tNamed(name, AppLanguage::ru), t(*key, AppLanguage::ru));
+    }
+    EXPECT_EQ(tNamed("diary.win", AppLanguage::de), "Sieg");
 }
 
 TEST(Lookup, everyKeyHasATextInEveryLanguage) {
     for (const AppLanguage language : allLanguages) {
         for (const std::string_view key : keys) {
-            EXPECT_FALSE(t(key, language).empty()) << key;
-            EXPECT_NE(t(key, language), key);
+            EXPECT_FALSE(tNamed(key, language).empty()) << key;
+            EXPECT_NE(tNamed(key, language), key);
         }
     }
 }

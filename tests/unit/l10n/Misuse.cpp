@@ -1,4 +1,5 @@
-// Compiles only with CORRECT defined; each other macro makes one mistake in the lists of texts.
+// Compiles only with CORRECT defined; each other macro makes one mistake in the lists of texts, or at a call.
+#include "l10n/L10n.h"
 #include "l10n/Table.h"
 
 namespace vorbel::L10n {
@@ -23,6 +24,20 @@ constexpr auto languages = std::to_array<LanguageTexts>({
 #endif
 });
 
-constexpr Table misused = tableOf(languages);
+constexpr auto misused = tableOf(keys, languages);
+
+#if defined(INCOMPLETE_EXTRA_TEXTS)
+constexpr auto incomplete = complete(tableOf(keys, languages));
+#endif
+
+#if defined(UNKNOWN_KEY_AT_A_CALL)
+const auto shown = t("menu.paly", AppLanguage::en);
+#elif defined(RUNTIME_KEY_AT_A_CALL)
+std::string_view show(const char* key) {
+    return t(key, AppLanguage::en);
+}
+#else
+const auto shown = t("menu.play", AppLanguage::en);
+#endif
 
 } // namespace vorbel::L10n

@@ -1,6 +1,6 @@
-// Texts that a language truly shares with English, letter by letter. Everything else that equals the English
-// text was forgotten; a listed key whose text differs is stale. Languages in other scripts share nothing but
-// "AI".
+// Texts that a language truly shares with English, letter by letter. Everything
+// else that equals the English text was forgotten; a listed key whose text
+// differs is stale. Languages in other scripts share nothing but "AI".
 #pragma once
 
 #include "l10n/AppLanguage.h"
@@ -17,8 +17,8 @@ inline const std::map<AppLanguage, std::set<std::string_view>> sameAsEnglish{
       "country.china", "country.ukraine", "country.malaysia", "country.israel", "country.bermuda",
       "country.ecuador", "country.elSalvador", "country.peru"}},
     {AppLanguage::fr,
-     {"difficulty.ultra", "rank.novice", "country.france", "country.portugal", "country.ukraine",
-      "country.hongKong", "country.canada"}},
+     {"difficulty.ultra", "rank.novice", "page.licence", "country.france", "country.portugal",
+      "country.ukraine", "country.hongKong", "country.canada"}},
     {AppLanguage::es,
      {"difficulty.ultra", "country.portugal", "country.china", "country.hongKong", "country.indonesia",
       "country.israel", "country.argentina", "country.colombia", "country.ecuador", "country.elSalvador",
@@ -43,9 +43,9 @@ inline const std::map<AppLanguage, std::set<std::string_view>> sameAsEnglish{
       "country.bermuda", "country.canada", "country.colombia", "country.ecuador", "country.elSalvador",
       "country.mexico", "country.peru", "country.tunisia"}},
     {AppLanguage::id,
-     {"label.aiToggle", "country.thailand", "country.portugal", "country.hongKong", "country.indonesia",
-      "country.malaysia", "country.israel", "country.argentina", "country.bermuda", "country.elSalvador",
-      "country.peru", "country.tunisia", "country.australia"}},
+     {"label.end", "label.aiToggle", "country.thailand", "country.portugal", "country.hongKong",
+      "country.indonesia", "country.malaysia", "country.israel", "country.argentina", "country.bermuda",
+      "country.elSalvador", "country.peru", "country.tunisia", "country.australia"}},
     {AppLanguage::tr,
      {"difficulty.ultra", "country.hongKong", "country.bermuda", "country.elSalvador", "country.peru"}},
     {AppLanguage::pl, {"label.end", "difficulty.ultra", "country.peru", "country.australia"}},

@@ -28,6 +28,9 @@ char32_t kindOfLine(std::string_view line) {
         return U' ';
     }
     const char32_t first = codePoints(line).front();
+    if (first == U'・') { // the middle dot of Japanese
+        return U'·';
+    }
     return first == U'·' || (first >= U'0' && first <= U'9') ? first : U'x';
 }
 
@@ -36,7 +39,10 @@ TEST_P(Texts, areComplete) {
         const bool isComposedByTheGame = GetParam() == AppLanguage::ru && key.starts_with("msg.");
         EXPECT_EQ(texts.contains(key), !isComposedByTheGame) << key;
     }
-    EXPECT_EQ(texts.size(), GetParam() == AppLanguage::ru ? 95u : 113u);
+    EXPECT_EQ(texts.size(), (GetParam() == AppLanguage::ru ? 95u : 113u) + L10n::extraKeys.size());
+    for (const std::string_view key : L10n::extraKeys) {
+        EXPECT_TRUE(texts.contains(key)) << key;
+    }
 }
 
 TEST_P(Texts, haveThePlaceholdersOfTheEnglishOnes) {
@@ -102,7 +108,7 @@ TEST_P(Texts, areNotLeftInEnglish) {
         return listed != sameAsEnglish.end() && listed->second.contains(key);
     };
     for (const auto& [key, text] : texts) {
-        if (key == "diary.entry.format") { // placeholders and "XP" alone
+        if (isPlaceholdersAlone(key)) {
             continue;
         }
         EXPECT_EQ(text == english.at(key), isListed(key)) << key << ": " << text;
@@ -122,6 +128,24 @@ TEST_P(Texts, tellChoicesSideBySideApart) {
         }
     }
     EXPECT_NE(texts.at("team.red.caps"), texts.at("team.blue.caps"));
+}
+
+// Capitals of the Latin, Greek and Cyrillic letters that the texts use.
+bool isCapital(char32_t letter) {
+    return (letter >= U'A' && letter <= U'Z') || (letter >= U'À' && letter <= U'Þ') ||
+           (letter >= U'Α' && letter <= U'Ω') || (letter >= U'Ѐ' && letter <= U'Я') || letter == U'Ґ';
+}
+
+// The name of the winner within is not in capitals: words around it that are would shout past it.
+TEST_P(Texts, TellTheWinnerOfAMatchWithoutShouting) {
+    if (GetParam() == AppLanguage::ru || GetParam() == AppLanguage::en) {
+        return;
+    }
+    const std::u32string sentence = codePoints(texts.at("msg.teamWinMatch.format"));
+    for (std::size_t i = 1; i < sentence.size(); ++i) {
+        EXPECT_FALSE(isCapital(sentence[i - 1]) && isCapital(sentence[i]))
+            << texts.at("msg.teamWinMatch.format");
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(L10n, Texts, testing::ValuesIn(allLanguages), nameOf);

@@ -25,11 +25,12 @@ constexpr auto ranges = std::to_array<Range>({
     {0x0E00, 0x0E7F, Script::thai},   {0x1E00, 0x1EFF, Script::latin},
     {0x1F00, 0x1FFF, Script::greek},  {0x200C, 0x200D, Script::common},
     {0x2010, 0x2027, Script::common}, {0x202F, 0x202F, Script::common},
-    {0x2030, 0x203A, Script::common}, {0x2116, 0x2116, Script::common},
-    {0x2190, 0x2193, Script::common}, {0x3001, 0x301F, Script::common},
-    {0x3040, 0x30FF, Script::kana},   {0x3400, 0x9FFF, Script::han},
-    {0xAC00, 0xD7A3, Script::hangul}, {0xFF01, 0xFF20, Script::common},
-    {0xFF3B, 0xFF40, Script::common}, {0xFF5B, 0xFF65, Script::common},
+    {0x2030, 0x203A, Script::common}, {0x2066, 0x2069, Script::common},
+    {0x2116, 0x2116, Script::common}, {0x2190, 0x2193, Script::common},
+    {0x3001, 0x301F, Script::common}, {0x3040, 0x30FF, Script::kana},
+    {0x3400, 0x9FFF, Script::han},    {0xAC00, 0xD7A3, Script::hangul},
+    {0xFF01, 0xFF20, Script::common}, {0xFF3B, 0xFF40, Script::common},
+    {0xFF5B, 0xFF65, Script::common},
 });
 
 // Length in bytes of the sequence that this byte leads; 0 for a byte that leads none.

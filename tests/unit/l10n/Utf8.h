@@ -15,8 +15,8 @@ enum class Script { common, latin, greek, cyrillic, arabic, devanagari, thai, ka
 // `common` is punctuation, digits, blanks and arrows; `other` is whatever no text should contain.
 [[nodiscard]] Script scriptOf(char32_t point);
 
-// The runs of Latin letters, digits and inner hyphens that begin with an ASCII letter or digit and hold a
-// letter.
+// The runs of Latin letters, digits and inner hyphens that
+// begin with an ASCII letter or digit and hold a letter.
 [[nodiscard]] std::vector<std::string> latinWords(std::string_view utf8);
 
 // The parts of the text between the separators; at least one.

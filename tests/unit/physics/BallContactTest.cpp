@@ -145,8 +145,8 @@ TEST(BallContact, ResultHardlyDependsOnTheSubStep) {
     }
 }
 
-// A ball that rolls against a held one climbs or stops; it is never pushed through and the held one never
-// moves.
+// A ball that rolls against a held one climbs or stops; it
+// is never pushed through and the held one never moves.
 TEST(BallContact, KinematicBallIsNotPushed) {
     PhysicsCourt court;
     const auto held = court.addBall({0, restHeight, -2}, ballBody(PhysicsBody::Type::kinematic));

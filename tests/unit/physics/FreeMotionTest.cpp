@@ -26,8 +26,8 @@ TEST_P(RollingBall, FollowsTheDampingLaw) {
 }
 INSTANTIATE_TEST_SUITE_P(Launches, RollingBall, testing::Values(0.5, 1.0, 2.5, 5.0));
 
-// The law behind the power of a throw: 0.4·D + 0.25 is the speed that rolls D metres until it is down to 0.25
-// m/s.
+// The law behind the power of a throw: 0.4·D + 0.25 is the
+// speed that rolls D metres until it is down to 0.25 m/s.
 TEST(RollingDistance, IsThatOfThePowerModel) {
     for (const double distance : {1.0, 4.0, 8.0, 11.0}) {
         PhysicsCourt court;

@@ -1,0 +1,116 @@
+#include "app/Application.h"
+
+#include "app/command_line/Demonstration.h"
+#include "app/command_line/Screenshot.h"
+#include "app/command_line/Speed.h"
+#include "app/shell/NotificationCenter.h"
+#include "app/shell/QtWindowFrame.h"
+#include "app/shell/VorbelApp.h"
+#include "app/text/Fonts.h"
+#include "app/window/ContentView.h"
+#include "app/window/Display.h"
+#include "platform/audio/SdlAudio.h"
+#include "platform/runloop/QtMainQueue.h"
+#include "platform/store/SettingsDefaults.h"
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QtQml/qqmlextensionplugin.h>
+
+#include <optional>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+Q_IMPORT_QML_PLUGIN(VorbelPlugin)
+
+namespace vorbel {
+
+namespace {
+
+// Lets freed memory go back to the system. Left to itself the library keeps more and more once large blocks,
+// such as decoded pictures, were freed, and it keeps a store for each thread. A lower limit would hold less
+// still, but costs 30 ms at every start.
+void configureMemory() {
+#ifdef __GLIBC__
+    constexpr int largeBlock = 1024 * 1024; // bytes
+    mallopt(M_MMAP_THRESHOLD, largeBlock);
+    mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
+// The services that a game in a window needs, for the life of the window.
+struct WindowPlatform {
+    QtMainQueue queue{speedFromEnvironment()};
+    SystemRandom random;
+    Resources resources = Resources::forProgram(QCoreApplication::applicationFilePath().toStdString());
+    SdlAudio audio{resources};
+    SettingsDefaults defaults{SettingsDefaults::userFolder()};
+
+    [[nodiscard]] Platform services() { return {queue, random, audio, resources}; }
+};
+
+QIcon windowIcon(const Resources& resources) {
+    QIcon icon;
+    for (const char* name : {"Icon16", "Icon22", "Icon32", "Icon48", "Icon64", "Icon128", "Icon256"}) {
+        if (const auto file = resources.find(name, "png")) {
+            icon.addFile(QString::fromStdString(file->string()));
+        }
+    }
+    return icon;
+}
+
+int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
+    chooseGraphics();
+    WindowPlatform platform;
+    NotificationCenter notifications;
+    ContentView view(platform.services(), platform.defaults);
+    view.receiveNotifications(notifications);
+    setDefaultFont(view.settings()->selectedLanguage());
+    VorbelApp shell(*view.settings(), notifications);
+    QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
+                     [&shell] { shell.toggleFullScreenEmulation(true); });
+    QGuiApplication::setWindowIcon(windowIcon(platform.resources));
+    QQmlApplicationEngine engine;
+    engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)},
+                                 {QStringLiteral("shell"), QVariant::fromValue(&shell)}});
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Vorbel/qml/window/Main.qml")));
+    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
+    if (window == nullptr) {
+        return EXIT_FAILURE; // the engine has said why
+    }
+    prepareWindow(*window);
+    QtWindowFrame frame(*window);
+    shell.setWindow(frame);
+    QObject::connect(&frame, &QtWindowFrame::screenChanged, &shell, &VorbelApp::followScreen);
+    view.appear();
+    std::optional<Demonstration> demonstration;
+    if (commandLine.action == CommandLine::Action::demonstrate) {
+        demonstration.emplace(view, platform.queue, *window, commandLine.screenshotsFolder);
+    }
+    return application.exec();
+}
+
+} // namespace
+
+int runApplication(int argc, char** argv, const CommandLine& commandLine) {
+    configureMemory();
+    std::optional<DisplayGuard> guard(std::in_place);
+    int programNameOnly = std::min(argc, 1);
+    QGuiApplication application(programNameOnly, argv);
+    guard.reset();
+    QGuiApplication::setApplicationName(QStringLiteral("vorbel"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("VORBEL"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("vorbel"));
+    prepareFonts();
+    if (commandLine.action == CommandLine::Action::takeScreenshot) {
+        return takeScreenshot(commandLine.screenshot);
+    }
+    return runWindow(application, commandLine);
+}
+
+} // namespace vorbel

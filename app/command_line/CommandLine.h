@@ -1,0 +1,25 @@
+// What the program was asked to do.
+#pragma once
+
+#include <filesystem>
+#include <span>
+#include <string>
+
+namespace vorbel {
+
+struct CommandLine {
+    enum class Action { play, demonstrate, takeScreenshot, showHelp, showVersion, complain };
+
+    Action action = Action::play;
+    std::filesystem::path screenshot;        // file to write, for takeScreenshot
+    std::filesystem::path screenshotsFolder; // of a demonstration; empty: no pictures
+    std::string complaint;                   // one line without the program's name, for complain
+
+    // The arguments without the program's name.
+    [[nodiscard]] static CommandLine parse(std::span<char* const> arguments);
+
+    [[nodiscard]] static std::string helpText();
+    [[nodiscard]] static std::string versionText();
+};
+
+} // namespace vorbel

@@ -1,0 +1,68 @@
+// The heads-up display over the arena.
+import QtQuick
+import Vorbel
+
+Item {
+    id: display
+
+    required property ContentView view
+    readonly property HudModel hud: view.hud
+    readonly property PlayerSettings settings: view.settings
+
+    // Narrower than the gap between the waiting balls at the lower edge, whose place follows the window's height.
+    readonly property real lowerWidth: Math.min(width - 2 * Theme.margin, 0.9 * height)
+
+    SidePanel {
+        id: red
+        anchors { left: parent.left; top: parent.top; margins: Theme.margin }
+        title: display.hud.redTitle
+        sideColor: Theme.red
+        scoreLabel: display.hud.scoreLabel
+        score: display.hud.redScore
+        ballsLeftLabel: display.hud.ballsLeftLabel
+        ballsLeft: display.hud.redBallsLeft
+        aiLabel: display.hud.aiToggleLabel
+        aiOn: display.settings.redAIOn
+        hasTurn: display.hud.redOnTurn
+        rightToLeft: display.hud.rightToLeft
+        onAiToggled: on => display.settings.redAIOn = on
+    }
+    MatchPanel {
+        anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.margin }
+        hud: display.hud
+        difficultyIndex: display.settings.difficultyIndex
+        maximumWidth: display.width - 2 * (Math.max(red.width, blue.width) + 2 * Theme.margin)
+        onDifficultyChosen: index => display.settings.difficultyIndex = index
+    }
+    SidePanel {
+        id: blue
+        anchors { right: parent.right; top: parent.top; margins: Theme.margin }
+        title: display.hud.blueTitle
+        sideColor: Theme.blue
+        scoreLabel: display.hud.scoreLabel
+        score: display.hud.blueScore
+        ballsLeftLabel: display.hud.ballsLeftLabel
+        ballsLeft: display.hud.blueBallsLeft
+        aiLabel: display.hud.aiToggleLabel
+        aiOn: display.settings.blueAIOn
+        hasTurn: display.hud.blueOnTurn
+        rightToLeft: display.hud.rightToLeft
+        onAiToggled: on => display.settings.blueAIOn = on
+    }
+    Column {
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.margin }
+        spacing: Theme.gap
+
+        PowerBar {
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: display.hud.powerShown
+            caption: display.hud.powerCaption
+            power: display.hud.power
+        }
+        MessageLine {
+            anchors.horizontalCenter: parent.horizontalCenter
+            message: display.hud.message
+            maximumWidth: display.lowerWidth
+        }
+    }
+}

@@ -1,0 +1,56 @@
+// The one window of the game: the arena, over it the display, over both the menu.
+import QtQuick
+import Vorbel
+
+Window {
+    id: window
+
+    required property ContentView view
+    required property VorbelApp shell
+
+    visible: true
+    title: "VORBEL"
+    width: 1200
+    height: 800
+    minimumWidth: 1200
+    minimumHeight: 800
+    color: "#0d0d14"
+
+    Binding {
+        target: Theme
+        property: "fontFamily"
+        value: window.view.settings.fontFamily
+    }
+
+    SceneView {
+        id: scene
+        anchors.fill: parent
+        view: window.view
+    }
+    Label {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Theme.margin
+        visible: text.length > 0
+        text: scene.problem
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+    }
+    Hud {
+        anchors { fill: parent; topMargin: gameMenu.coveredHeight }
+        enabled: !window.view.menu.open
+        opacity: enabled ? 1 : 0.4 // its bright message must not shine through the menu
+        view: window.view
+    }
+    Menu {
+        anchors { fill: parent; topMargin: gameMenu.coveredHeight }
+        menu: window.view.menu
+    }
+    GameMenuBar {
+        id: gameMenu
+        width: parent.width
+        shell: window.shell
+    }
+    GameKeys {
+        keyboard: window.view.keyboard
+    }
+}

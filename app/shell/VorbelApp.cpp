@@ -1,0 +1,76 @@
+#include "app/shell/VorbelApp.h"
+
+#include "app/settings/PlayerSettings.h"
+#include "app/shell/NotificationCenter.h"
+#include "app/text/Fonts.h"
+#include "app/text/Texts.h"
+
+#include <QKeySequence>
+#include <QStringList>
+
+namespace vorbel {
+
+VorbelApp::VorbelApp(const PlayerSettings& settings, const NotificationCenter& notifications)
+    : notifications_(notifications), language_(settings.selectedLanguage()) {
+    connect(&settings, &PlayerSettings::languageChanged, this, [this, &settings] {
+        language_ = settings.selectedLanguage();
+        emit languageChanged();
+    });
+}
+
+QString VorbelApp::gameMenuTitle() const {
+    return text("menu.gameMenu", language_);
+}
+QString VorbelApp::startGameTitle() const {
+    return text("menu.startGame", language_);
+}
+QString VorbelApp::rulesTitle() const {
+    return text("menu.rules", language_);
+}
+QString VorbelApp::aboutTitle() const {
+    return text("menu.about", language_);
+}
+QString VorbelApp::toggleFullScreenTitle() const {
+    return text("menu.toggleFullScreen", language_);
+}
+
+bool VorbelApp::rightToLeft() const {
+    return isRightToLeft(language_);
+}
+
+// Ours on every desktop, the desktop's own, and what most others use.
+QVariantList VorbelApp::fullScreenKeys() {
+    QStringList keys{QStringLiteral("Meta+Ctrl+F")};
+    for (const QKeySequence& key : QKeySequence::keyBindings(QKeySequence::FullScreen)) {
+        keys.append(key.toString());
+    }
+    keys.append(QStringLiteral("F11"));
+    keys.removeDuplicates();
+    return {keys.cbegin(), keys.cend()};
+}
+
+void VorbelApp::requestNewGame() {
+    notifications_.post(newGameRequested);
+}
+void VorbelApp::requestRules() {
+    notifications_.post(showRulesRequested);
+}
+void VorbelApp::requestAbout() {
+    notifications_.post(showAboutRequested);
+}
+
+void VorbelApp::toggleFullScreenEmulation(bool exitOnly) {
+    const bool before = fullScreen_.isOn();
+    fullScreen_.toggle(window_, exitOnly);
+    if (fullScreen_.isOn() != before) {
+        emit inFullScreenChanged();
+    }
+}
+
+void VorbelApp::followScreen() {
+    if (window_ != nullptr) {
+        fullScreen_.followScreen(*window_);
+    }
+}
+
+} // namespace vorbel

@@ -1,0 +1,68 @@
+// The shell around the game view: the game menu and full screen.
+#pragma once
+
+#include "app/shell/FullScreen.h"
+#include "l10n/AppLanguage.h"
+
+#include <QObject>
+#include <QString>
+#include <QVariantList>
+#include <QtQml/qqmlregistration.h>
+
+namespace vorbel {
+
+class NotificationCenter;
+class PlayerSettings;
+
+// Tells the game view what the player asks for through notifications only; follows the player's language.
+// Main thread only.
+class VorbelApp final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program before its window")
+
+    Q_PROPERTY(QString gameMenuTitle READ gameMenuTitle NOTIFY languageChanged FINAL)
+    Q_PROPERTY(QString startGameTitle READ startGameTitle NOTIFY languageChanged FINAL)
+    Q_PROPERTY(QString rulesTitle READ rulesTitle NOTIFY languageChanged FINAL)
+    Q_PROPERTY(QString aboutTitle READ aboutTitle NOTIFY languageChanged FINAL)
+    Q_PROPERTY(QString toggleFullScreenTitle READ toggleFullScreenTitle NOTIFY languageChanged FINAL)
+    Q_PROPERTY(bool rightToLeft READ rightToLeft NOTIFY languageChanged FINAL)
+    Q_PROPERTY(QVariantList fullScreenKeys READ fullScreenKeys CONSTANT FINAL)
+    Q_PROPERTY(bool inFullScreen READ inFullScreen NOTIFY inFullScreenChanged FINAL)
+
+public:
+    // Both must outlive it.
+    VorbelApp(const PlayerSettings& settings, const NotificationCenter& notifications);
+
+    // The one window, which must outlive this. Until it is set, full screen does nothing.
+    void setWindow(WindowFrame& window) { window_ = &window; }
+
+    [[nodiscard]] AppLanguage language() const { return language_; }
+    [[nodiscard]] QString gameMenuTitle() const;
+    [[nodiscard]] QString startGameTitle() const;
+    [[nodiscard]] QString rulesTitle() const;
+    [[nodiscard]] QString aboutTitle() const;
+    [[nodiscard]] QString toggleFullScreenTitle() const;
+    [[nodiscard]] bool rightToLeft() const;
+    // The first is the one to show; none is given twice. Needs the application object.
+    [[nodiscard]] static QVariantList fullScreenKeys();
+    [[nodiscard]] bool inFullScreen() const { return fullScreen_.isOn(); }
+
+    Q_INVOKABLE void requestNewGame();
+    Q_INVOKABLE void requestRules();
+    Q_INVOKABLE void requestAbout();
+    Q_INVOKABLE void toggleFullScreenEmulation(bool exitOnly);
+    void followScreen(); // call it when the window's screen became another one or changed its size
+
+signals:
+    void languageChanged();
+    void inFullScreenChanged();
+
+private:
+    const NotificationCenter& notifications_;
+    AppLanguage language_;
+    FullScreen fullScreen_;
+    WindowFrame* window_ = nullptr;
+};
+
+} // namespace vorbel

@@ -1,0 +1,68 @@
+#include "app/window/ContentView.h"
+
+#include "app/shell/NotificationCenter.h"
+
+#include <array>
+
+namespace vorbel {
+
+namespace {
+
+constexpr double pointerTurnDuration = 0.1; // s
+
+struct Request {
+    std::string_view notification;
+    MenuScreen screen;
+};
+
+// A new game is never started at once: the player starts it from the main menu.
+constexpr std::array requests{Request{newGameRequested, MenuScreen::main},
+                              Request{showRulesRequested, MenuScreen::rules},
+                              Request{showAboutRequested, MenuScreen::about}};
+
+} // namespace
+
+ContentView::ContentView(const Platform& platform, UserDefaults& defaults)
+    : platform_(platform),
+      gameLogic_(platform),
+      settings_(gameLogic_, platform.mainQueue, defaults),
+      career_(defaults, platform.random),
+      recorder_(gameLogic_, career_, [this] { openMenu_.setMenuScreen(MenuScreen::matchResult); }),
+      changes_(gameLogic_, platform.mainQueue),
+      keyboard_(gameLogic_, openMenu_),
+      menu_(gameLogic_, settings_, openMenu_, career_, platform_.resources) {
+    connect(&changes_, &MatchChanges::changed, this, &ContentView::refresh);
+    connect(&settings_, &PlayerSettings::choicesChanged, &changes_, &MatchChanges::tellSoon);
+    refresh();
+}
+
+void ContentView::appear() {
+    gameLogic_.startAimingLoop();
+    settings_.handOverLanguage();
+}
+
+void ContentView::receiveNotifications(NotificationCenter& center) {
+    for (const Request& request : requests) {
+        notifications_.push_back(center.addObserver(
+            request.notification, [this, screen = request.screen] { openMenu_.setMenuScreen(screen); }));
+    }
+}
+
+void ContentView::refresh() {
+    const std::pair<double, double> aim{gameLogic_.aimAngle, gameLogic_.aimPitch};
+    if (std::exchange(shownAim_, aim) != aim) {
+        updatePointer();
+    }
+    hud_.refresh(gameLogic_, settings_.selectedCountry(), settings_.selectedClass());
+    menu_.result()->refresh();
+}
+
+void ContentView::updatePointer() {
+    if (const Node::Ptr pointer = gameLogic_.scene.root->findChild("pointer")) {
+        const auto [angle, pitch] = shownAim_;
+        gameLogic_.scene.animateOrientation(pointer, rotationFromEuler({pitch, -angle, 0}),
+                                            pointerTurnDuration);
+    }
+}
+
+} // namespace vorbel

@@ -1,0 +1,74 @@
+// The content of the game's window: owns the match and everything that shows it or changes it for the player.
+#pragma once
+
+#include "app/career/Career.h"
+#include "app/career/CareerRecorder.h"
+#include "app/hud/HudModel.h"
+#include "app/menu/MenuModel.h"
+#include "app/menu/OpenMenu.h"
+#include "app/settings/PlayerSettings.h"
+#include "app/window/Keyboard.h"
+#include "app/window/MatchChanges.h"
+#include "engine/GameLogic.h"
+#include "platform/store/UserDefaults.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+#include <utility>
+#include <vector>
+
+namespace vorbel {
+
+class NotificationCenter;
+
+// Main thread only.
+class ContentView final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program before its window")
+
+    Q_PROPERTY(vorbel::PlayerSettings* settings READ settings CONSTANT FINAL)
+    Q_PROPERTY(vorbel::Keyboard* keyboard READ keyboard CONSTANT FINAL)
+    Q_PROPERTY(vorbel::HudModel* hud READ hud CONSTANT FINAL)
+    Q_PROPERTY(vorbel::MenuModel* menu READ menu CONSTANT FINAL)
+
+public:
+    // The services and the defaults must outlive the view.
+    ContentView(const Platform& platform, UserDefaults& defaults);
+
+    // Call once, when the view is first shown: starts the tick and gives the match the stored language.
+    void appear();
+
+    // Call once: from now on each of the shell's notifications opens its screen.
+    void receiveNotifications(NotificationCenter& center);
+
+    [[nodiscard]] GameLogic& gameLogic() { return gameLogic_; }
+    [[nodiscard]] MatchChanges& changes() { return changes_; }
+    [[nodiscard]] const Resources& resources() const { return platform_.resources; }
+    [[nodiscard]] Career& career() { return career_; }
+    [[nodiscard]] OpenMenu& openMenu() { return openMenu_; }
+    [[nodiscard]] PlayerSettings* settings() { return &settings_; }
+    [[nodiscard]] Keyboard* keyboard() { return &keyboard_; }
+    [[nodiscard]] HudModel* hud() { return &hud_; }
+    [[nodiscard]] MenuModel* menu() { return &menu_; }
+
+private:
+    void refresh();
+    void updatePointer();
+
+    Platform platform_;
+    GameLogic gameLogic_;
+    PlayerSettings settings_;
+    OpenMenu openMenu_;
+    Career career_;
+    CareerRecorder recorder_;
+    MatchChanges changes_;
+    Keyboard keyboard_;
+    HudModel hud_;
+    MenuModel menu_;
+    std::vector<Subscription> notifications_;
+    std::pair<double, double> shownAim_{0, 0}; // angle and pitch that the pointer was last turned to
+};
+
+} // namespace vorbel

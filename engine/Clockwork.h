@@ -1,0 +1,44 @@
+// What a match does without being asked: its tick, and the next step of the computer's turn.
+#pragma once
+
+#include "platform/runloop/Lifetime.h"
+#include "platform/runloop/Observers.h"
+
+#include <cstdint>
+#include <functional>
+
+namespace vorbel {
+
+// Main thread only. Nothing that it was given runs once it is gone.
+class Clockwork {
+public:
+    static constexpr double tickPeriod = 0.02; // s
+
+    // The queue must outlive this.
+    explicit Clockwork(MainQueue& queue) : queue_(queue) {}
+
+    // Runs the work every tick, and tells the observers after it, until it is stopped or started again.
+    void start(std::function<void()> work);
+    void stop() { timer_.cancel(); }
+    [[nodiscard]] Subscription onTick(std::function<void()> observer) {
+        return ticks_.add(std::move(observer));
+    }
+
+    // The computer's turn has two steps, of which one at most is scheduled: to take aim, and to release the
+    // ball.
+    enum class Step : std::uint8_t { none, aim, release };
+    [[nodiscard]] Step scheduled() const { return scheduled_; }
+    // Runs the work `seconds` from now as that step, in place of what was scheduled before.
+    void schedule(Step step, double seconds, std::function<void()> work);
+    void cancel(); // drops what is scheduled
+
+private:
+    MainQueue& queue_;
+    Subscription timer_;
+    Observers<> ticks_;
+    Step scheduled_ = Step::none;
+    Lifetime schedule_; // of the scheduled step: replaced with it
+    Lifetime lifetime_;
+};
+
+} // namespace vorbel

@@ -1,0 +1,83 @@
+// What assistive technology is told of things that the eye takes from their place or colour.
+#include "l10n/L10n.h"
+#include "tests/scenario/menus/MenuWindow.h"
+
+#include <QAccessible>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace vorbel {
+
+class SpokenTest : public testing::Test {
+protected:
+    MenuWindow game{Resources({VORBEL_RESOURCES_FOLDER})};
+
+    SpokenTest() { game.setLanguage(AppLanguage::en); }
+
+    std::vector<QAccessibleInterface*> spoken(QAccessible::Role role) {
+        game.layOut();
+        std::vector<QQuickItem*> items;
+        collect(
+            *game.window().contentItem(),
+            [role](QQuickItem& item) {
+                const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&item);
+                return spoken != nullptr && spoken->role() == role;
+            },
+            items);
+        std::vector<QAccessibleInterface*> found;
+        for (QQuickItem* item : items) {
+            found.push_back(QAccessible::queryAccessibleInterface(item));
+        }
+        return found;
+    }
+    std::vector<std::string> texts(QAccessible::Role role, QAccessible::Text kind) {
+        std::vector<std::string> all;
+        for (const QAccessibleInterface* item : spoken(role)) {
+            all.push_back(item->text(kind).toStdString());
+        }
+        return all;
+    }
+};
+
+TEST_F(SpokenTest, PointsAndBallsNameTheirSide) {
+    game.open(MenuScreen::hidden);
+    EXPECT_THAT(
+        texts(QAccessible::StaticText, QAccessible::Name),
+        testing::IsSupersetOf({"RED, Score: 0", "RED, Balls: 6", "BLUE, Score: 0", "BLUE, Balls: 6"}));
+}
+
+TEST_F(SpokenTest, EachClassIsDescribedByItsOwnRadioButton) {
+    game.open(MenuScreen::bcClass);
+    std::vector<std::string> expected;
+    for (const BocciaClass sportClass : allBocciaClasses) {
+        expected.emplace_back(L10n::t(descriptionKey(sportClass), AppLanguage::en));
+    }
+    EXPECT_THAT(texts(QAccessible::RadioButton, QAccessible::Description), testing::IsSupersetOf(expected));
+}
+
+TEST_F(SpokenTest, ThePowerBarTellsThePower) {
+    game.open(MenuScreen::hidden);
+    game.view().gameLogic().aimState = AimState::aimingPower;
+    game.view().gameLogic().aimPower = 41.6;
+    const auto bars = spoken(QAccessible::ProgressBar);
+    ASSERT_EQ(bars.size(), 1u);
+    EXPECT_EQ(bars[0]->text(QAccessible::Name), QStringLiteral("Throw power"));
+    QAccessibleValueInterface* value = bars[0]->valueInterface();
+    ASSERT_NE(value, nullptr);
+    EXPECT_EQ(value->currentValue().toInt(), 42);
+    EXPECT_EQ(value->minimumValue().toInt(), 0);
+    EXPECT_EQ(value->maximumValue().toInt(), 100);
+}
+
+TEST_F(SpokenTest, ARadioButtonListsEachActionOnce) {
+    game.open(MenuScreen::bcClass);
+    const auto buttons = spoken(QAccessible::RadioButton);
+    ASSERT_FALSE(buttons.empty());
+    for (QAccessibleInterface* button : buttons) {
+        const QStringList actions = button->actionInterface()->actionNames();
+        EXPECT_EQ(QStringList(actions).removeDuplicates(), 0) << actions.join(QLatin1Char(' ')).toStdString();
+    }
+}
+
+} // namespace vorbel
