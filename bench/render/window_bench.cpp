@@ -23,8 +23,8 @@ namespace vorbel::bench {
 
 namespace {
 
-constexpr int shownFor = 5000; // ms, each part
-constexpr int ballCount = 13;
+constexpr int shownFor = 5000;      // ms, each part
+constexpr int places = 13;          // that balls are thrown from
 constexpr double againAfter = 2500; // ms: until then all balls roll
 
 constexpr const char* windowText = R"(
@@ -63,8 +63,8 @@ int run(QQuickWindow& window, bool asFastAsPossible, const std::function<void()>
 
 class Rolling {
 public:
-    explicit Rolling(Scene& scene) : scene_(scene) {
-        for (int i = 0; i < ballCount; ++i) {
+    Rolling(Scene& scene, int count) : scene_(scene) {
+        for (int i = 0; i < count; ++i) {
             balls_.push_back(
                 makeBall(i % 2 == 0 ? BallColor::blue : BallColor::red, {}, PhysicsBody::Type::dynamic));
             balls_.back()->name.clear(); // not balls of the match
@@ -86,11 +86,12 @@ public:
 private:
     void throwAll() {
         clock_.start();
-        for (int i = 0; i < ballCount; ++i) {
-            const Node::Ptr& ball = balls_[static_cast<std::size_t>(i)];
-            const int column = i - ballCount / 2;
+        for (std::size_t n = 0; n < balls_.size(); ++n) {
+            const Node::Ptr& ball = balls_[n];
+            const int i = static_cast<int>(n);
+            const int column = balls_.size() == 1 ? 0 : i - static_cast<int>(balls_.size()) / 2;
             ball->setPosition({0.3 * column, court::restingHeight, -0.5});
-            ball->body->velocity = {-0.04 * column, 0, -2.2 - 0.25 * ((5 * i) % ballCount)};
+            ball->body->velocity = {-0.04 * column, 0, -2.2 - 0.25 * ((5 * i) % places)};
             ball->body->angularVelocity = {ball->body->velocity.z / ball::radius, 0, 0};
         }
     }
@@ -100,9 +101,23 @@ private:
     QElapsedTimer clock_;
 };
 
-void printFrames(const char* what, int frames, const Moment& spent) {
-    printRow(what, 1000 * frames / spent.wall, "frames/s");
-    printRow("    processor time a frame", spent.cpu / std::max(frames, 1), "ms");
+struct FrameCost {
+    double perSecond = 0;
+    double cpu = 0; // ms a frame
+};
+
+FrameCost printedCost(const std::string& what, int frames, const Moment& spent) {
+    const FrameCost cost{1000 * frames / spent.wall, spent.cpu / std::max(frames, 1)};
+    printRow(what.c_str(), cost.perSecond, "frames/s");
+    printRow("    processor time a frame", cost.cpu, "ms");
+    return cost;
+}
+
+FrameCost measureRolling(QQuickWindow& window, Scene& scene, int balls) {
+    Rolling rolling(scene, balls);
+    const Moment start = Moment::now();
+    const int frames = run(window, true, [&] { rolling.keepRolling(); });
+    return printedCost("window, balls rolling: " + std::to_string(balls), frames, Moment::now() - start);
 }
 
 } // namespace
@@ -131,12 +146,9 @@ int measureWindow(const Resources& resources) {
     printRow("waiting for the player: share of one core", 100 * spent.cpu / spent.wall, "%");
     printRow("    pictures meanwhile", frames, "");
 
-    int rollingFrames = 0;
-    {
-        Rolling rolling(view.gameLogic().scene);
-        start = Moment::now();
-        rollingFrames = run(*window, true, [&] { rolling.keepRolling(); });
-        printFrames("window, 13 balls rolling", rollingFrames, Moment::now() - start);
+    std::vector<std::pair<int, FrameCost>> rolling;
+    for (const int balls : {0, 1, 3, 13}) {
+        rolling.emplace_back(balls, measureRolling(*window, view.gameLogic().scene, balls));
     }
     std::vector<double> switches;
     for (const AppLanguage language : {AppLanguage::de, AppLanguage::en, AppLanguage::ja, AppLanguage::en}) {
@@ -153,8 +165,13 @@ int measureWindow(const Resources& resources) {
     QObject::disconnect(window, nullptr, window->findChild<QObject*>(QStringLiteral("arena")), nullptr);
     start = Moment::now();
     frames = run(*window, true, [] {});
-    printFrames("window with nothing but the display of the score", frames, Moment::now() - start);
-    printRow("    13 balls rolling, share of that", 100.0 * rollingFrames / std::max(frames, 1), "%");
+    const FrameCost score =
+        printedCost("window with nothing but the display of the score", frames, Moment::now() - start);
+    for (const auto& [balls, cost] : rolling) {
+        const std::string rows = "    balls rolling: " + std::to_string(balls);
+        printRow((rows + ", processor time a frame, times that").c_str(), cost.cpu / score.cpu, "");
+        printRow((rows + ", frames, share of that").c_str(), 100 * cost.perSecond / score.perSecond, "%");
+    }
     return 0;
 }
 

@@ -35,12 +35,19 @@ glm::vec4 rowOf(const glm::mat4& world, int row) {
     return {world[0][row], world[1][row], world[2][row], world[3][row]};
 }
 
+// A box that glows has edges, so that it is seen on any ground.
+float markOf(const DrawItem& item) {
+    const auto* box = std::get_if<Box>(&item.shape);
+    const bool glows = item.material.emission != colors::black;
+    return item.material.seams ? 1 : glows && box != nullptr && box->chamferRadius == 0 ? 2 : 0;
+}
+
 Instance instanceFor(const DrawItem& item, const glm::mat4& world) {
     const Material& material = item.material;
     const Color diffuse = material.picture.empty() ? material.diffuse : colors::white;
     return {{rowOf(world, 0), rowOf(world, 1), rowOf(world, 2)},
             glm::vec4(linearLight(diffuse), diffuse.alpha * item.opacity),
-            glm::vec4(linearLight(material.emission), material.seams ? 1 : 0)};
+            glm::vec4(linearLight(material.emission), markOf(item))};
 }
 
 MirrorFloor placedFloor(const DrawItem& item, const Viewpoint& camera) {

@@ -47,8 +47,10 @@ public:
 
     [[nodiscard]] PixelRect pixels(const Perspective& view) const {
         const glm::vec2 size(view.width, view.height);
-        const glm::vec2 low = glm::clamp((low_ / view.halfWidth + 1.0F) / 2.0F * size, glm::vec2(0), size);
-        const glm::vec2 high = glm::clamp((high_ / view.halfWidth + 1.0F) / 2.0F * size, glm::vec2(0), size);
+        const glm::vec2 low =
+            glm::clamp(((low_ - view.middle) / view.halfWidth + 1.0F) / 2.0F * size, glm::vec2(0), size);
+        const glm::vec2 high =
+            glm::clamp(((high_ - view.middle) / view.halfWidth + 1.0F) / 2.0F * size, glm::vec2(0), size);
         return {static_cast<int>(std::floor(low.x)), static_cast<int>(std::floor(low.y)),
                 static_cast<int>(std::ceil(high.x)), static_cast<int>(std::ceil(high.y))};
     }

@@ -28,10 +28,11 @@ struct Extent {
 // A view in perspective, as a camera or a light has it.
 struct Perspective {
     glm::mat4 toView{1};       // from the arena's frame to that of the eye, which looks along −z
-    glm::vec2 halfWidth{1, 1}; // tangents of half the angles of view
+    glm::vec2 halfWidth{1, 1}; // half of what is seen, as tangents of angles at the eye
     int width = 1;             // of the picture, pixels
     int height = 1;
-    float zNear = 0.1F; // metres: nothing nearer is seen
+    float zNear = 0.1F;     // metres: nothing nearer is seen
+    glm::vec2 middle{0, 0}; // of what is seen, as tangents of its angles from straight ahead
 
     // Holds all pixels that the extent touches, and is inside the picture.
     [[nodiscard]] PixelRect bounds(const Extent& extent) const;

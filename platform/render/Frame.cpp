@@ -130,14 +130,11 @@ private:
         if (light.type == Light::Type::ambient) {
             frame_.ambient += strength;
         } else if (!frame_.spot) {
-            const auto halfAngle = [](double degrees) {
-                return static_cast<float>(glm::radians(degrees) / 2);
-            };
             frame_.spot = {glm::vec3(world[3]),
                            glm::normalize(glm::vec3(-world[2])),
                            strength,
-                           halfAngle(light.spotInnerAngle),
-                           halfAngle(light.spotOuterAngle),
+                           static_cast<float>(glm::radians(light.spotInnerAngle)),
+                           static_cast<float>(glm::radians(light.spotOuterAngle)),
                            light.castsShadow,
                            light.shadowMapSize,
                            light.shadowSampleCount,

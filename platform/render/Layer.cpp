@@ -6,8 +6,8 @@ namespace vorbel {
 
 namespace {
 
-constexpr int partFloats = 4;   // left, bottom, right, top: fractions of the picture
-constexpr int offsetFloats = 2; // from there to the place in the sheet, pixels
+constexpr int partFloats = 4;   // left, lower, right, upper edge in the layer: fractions of it
+constexpr int offsetFloats = 2; // see the shader
 constexpr int pieceFloats = partFloats + offsetFloats;
 
 void setAttribute(QOpenGLExtraFunctions& gl, GLuint location, int components, int first) {
@@ -43,7 +43,10 @@ bool Layer::resize(QOpenGLExtraFunctions& gl, int width, int height) {
     }
     width_ = width;
     height_ = height;
-    picture_ = TextureTarget::create(gl, GL_RGBA8, GL_UNSIGNED_BYTE, width, height);
+    // Without a size in its format a texture is kept in the order that is named. That of most windows lets a
+    // driver without graphics hardware copy lines of bytes instead of shading each pixel.
+    const GLenum order = QOpenGLContext::currentContext()->isOpenGLES() ? GL_RGBA : GL_BGRA;
+    picture_ = TextureTarget::create(gl, GL_RGBA, order, GL_UNSIGNED_BYTE, width, height);
     return true;
 }
 
@@ -53,10 +56,11 @@ void Layer::put(QOpenGLExtraFunctions& gl, std::span<const Piece> pieces, GLuint
     const auto h = static_cast<float>(height_);
     for (const Piece& piece : pieces) {
         const PixelRect& part = piece.part;
-        places_.insert(places_.end(), {static_cast<float>(part.left) / w, static_cast<float>(part.bottom) / h,
-                                       static_cast<float>(part.right) / w, static_cast<float>(part.top) / h,
-                                       static_cast<float>(piece.left - part.left),
-                                       static_cast<float>(piece.bottom - part.bottom)});
+        places_.insert(places_.end(),
+                       {static_cast<float>(part.left) / w, 1 - static_cast<float>(part.top) / h,
+                        static_cast<float>(part.right) / w, 1 - static_cast<float>(part.bottom) / h,
+                        static_cast<float>(piece.left - part.left),
+                        static_cast<float>(piece.bottom - part.bottom + height_ - 1)});
     }
     gl.glBindFramebuffer(GL_FRAMEBUFFER, picture_.framebuffer.id());
     gl.glViewport(0, 0, width_, height_);
@@ -80,9 +84,8 @@ void Layer::show(QOpenGLExtraFunctions& gl, GLuint framebuffer) {
         showByShader(gl);
         return;
     }
-    // A plain copy, many times faster than shading without graphics hardware.
     gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, picture_.framebuffer.id());
-    gl.glBlitFramebuffer(0, 0, width_, height_, 0, 0, width_, height_, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    gl.glBlitFramebuffer(0, height_, width_, 0, 0, 0, width_, height_, GL_COLOR_BUFFER_BIT, GL_NEAREST);
     gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer);
 }
 

@@ -1,4 +1,5 @@
-// The finished picture, kept from frame to frame in the encoding of the screen.
+// The finished picture, kept from frame to frame in the encoding of the screen, and upside down: windows keep
+// their pictures so, and the copy into them is then a plain one.
 #pragma once
 
 #include "platform/render/Regions.h"

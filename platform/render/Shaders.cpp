@@ -27,6 +27,10 @@ out vec2 pictureUv;
 flat out vec4 surfaceDiffuse;
 flat out vec4 surfaceEmission;
 out vec3 shapePoint;
+flat out vec3 halfSize;
+
+// Turns the seams away from where the light ends on a ball that is not turned itself.
+const mat3 tilt = mat3(0.9004, 0.4350, 0.0, -0.3590, 0.7431, 0.5646, 0.2456, -0.5084, 0.8253);
 
 void main() {
     vec4 point = vec4(position, 1.0);
@@ -37,7 +41,13 @@ void main() {
     pictureUv = uv;
     surfaceDiffuse = diffuse;
     surfaceEmission = emission;
-    shapePoint = position;
+    vec3 size = vec3(length(vec3(worldX.x, worldY.x, worldZ.x)), length(vec3(worldX.y, worldY.y, worldZ.y)),
+                     length(vec3(worldX.z, worldY.z, worldZ.z)));
+    halfSize = 0.5 * size;
+    shapePoint = position * size;
+    if (emission.w == 1.0) {
+        shapePoint = tilt * shapePoint;
+    }
     gl_Position = viewProjection * vec4(worldPosition, 1.0);
 }
 )";
@@ -49,9 +59,10 @@ layout(std140) uniform Lights {
     vec4 lightPosition;
     vec4 lightDirection;
     vec4 lightStrength;
-    vec4 cone;            // cosines of the inner and the outer half angle; z: texel of the shadow map, as a tangent
-    vec4 shadowScale;     // 1 / near, 1 / (1 / near - 1 / far), 1 / (2 tan half angle), bias in metres
-    vec4 shadowOffset[16]; // xy: texture coordinates, zw: the same as tangents of the angle at the light
+    vec4 cone;            // cosines of the inner and the outer half angle; zw: texel of the shadow map, as tangents
+    vec4 shadowPlace;     // from tangents of angles at the light to texture coordinates: times xy, plus zw
+    vec4 shadowDepth;     // 1 / near, 1 / (1 / near - 1 / far), bias in metres
+    vec4 shadowOffset[16]; // xy: texture coordinates, zw: the same as tangents of angles at the light
 };
 uniform sampler2D picture;
 uniform highp sampler2DShadow shadowMap;
@@ -60,8 +71,9 @@ in vec3 worldPosition;
 in vec3 worldNormal;
 in vec2 pictureUv;
 flat in vec4 surfaceDiffuse;
-flat in vec4 surfaceEmission; // w: 1 when the surface has seams
-in vec3 shapePoint;           // in the frame of the shape
+flat in vec4 surfaceEmission; // w: 1 when the surface has seams, 2 when it has dark edges
+in vec3 shapePoint;           // in the frame of the shape, metres; of balls with seams, turned
+flat in vec3 halfSize;        // of a box, metres
 layout(location = 0) out vec4 color;
 
 // Share of the light that reaches the surface. The depth that each sample is compared with follows the plane of
@@ -71,10 +83,13 @@ float visibility(vec3 normal) {
     vec3 facing = mat3(lightView) * normal;
     float distance = -point.z;
     float plane = max(-dot(facing, point), 0.05 * distance);
-    vec2 slope = facing.xy / plane * shadowScale.y;
-    vec3 start = vec3(point.xy / distance * shadowScale.z + 0.5,
-                      (shadowScale.x - 1.0 / (distance - shadowScale.w)) * shadowScale.y);
-    start.z -= dot(abs(slope), cone.zz); // each sample mixes texels up to one away
+    vec2 slope = facing.xy / plane * shadowDepth.y;
+    vec3 start = vec3(point.xy / distance * shadowPlace.xy + shadowPlace.zw,
+                      (shadowDepth.x - 1.0 / (distance - shadowDepth.z)) * shadowDepth.y);
+    if (any(greaterThan(abs(start.xy - 0.5), vec2(0.5)))) {
+        return 1.0; // nothing that is seen is shaded there
+    }
+    start.z -= dot(abs(slope), cone.zw); // each sample mixes texels up to one away
     float sum = 0.0;
     for (int i = 0; i < 16; ++i) { // a constant, so that compilers unroll it
         vec4 offset = shadowOffset[i];
@@ -95,16 +110,32 @@ vec3 incomingLight() {
     return ambient.rgb + lightStrength.rgb * spot;
 }
 
+// How many pixels a ball is across here, from how much of its unit sphere the pixel covers.
+float pixelsAcross(vec3 point) {
+    float facing = dot(normalize(worldNormal), normalize(eye.xyz - worldPosition));
+    return 2.0 * inversesqrt(max(length(cross(dFdx(point), dFdy(point))) * facing, 1e-8));
+}
+
 // Leather panels, eight on a ball, every other one a little darker, with sewn seams between them: so that the
-// turning of a ball is seen.
+// turning of a ball is seen. All together they have the colour of the ball. Small balls are plain.
 float leather() {
-    const float seamHalfWidth = 0.05; // of the radius
+    const float seamHalfWidth = 0.05; // of the radius; the seams are 0.15 of the ball
     vec3 point = normalize(shapePoint);
+    float share = smoothstep(12.0, 20.0, pixelsAcross(point));
     vec3 pixel = max(fwidth(point), vec3(0.01));
     vec3 side = clamp(point / pixel * 2.0, -1.0, 1.0);
-    float dark = 0.5 - 0.5 * side.x * side.y * side.z;
     vec3 seam = (min(abs(point) + pixel * 0.5, seamHalfWidth) - min(abs(point) - pixel * 0.5, seamHalfWidth)) / pixel;
-    return (1.0 - 0.18 * dark) * (1.0 - 0.3 * max(max(seam.x, seam.y), seam.z));
+    float pattern = (1.0 + 0.09 * side.x * side.y * side.z) * (1.0 - 0.3 * max(max(seam.x, seam.y), seam.z));
+    return mix(1.0, pattern / (1.0 - 0.3 * 0.15), share);
+}
+
+// A glowing bar is darker along its edges: it stands out from a ground that is as light as itself.
+float edging() {
+    const float width = 0.005; // metres
+    vec3 inside = halfSize - abs(shapePoint); // one of the three is 0: that of the face
+    float toEdge = inside.x + inside.y + inside.z - max(max(inside.x, inside.y), inside.z);
+    float pixel = max(fwidth(toEdge), 1e-5);
+    return mix(0.12, 1.0, clamp((toEdge - width) / pixel + 0.5, 0.0, 1.0));
 }
 
 void main() {
@@ -123,15 +154,18 @@ void main() {
     surface.rgb *= incomingLight();
 #endif
     surface.rgb = min(surface.rgb + surfaceEmission.rgb, 1.0);
-    if (surfaceEmission.w > 0.5) {
+#ifndef MIRROR
+    if (surfaceEmission.w > 1.5) {
+        surface.rgb *= edging();
+    } else if (surfaceEmission.w > 0.5) {
         surface.rgb *= leather();
     }
-#ifdef MIRROR
+#else
     surface.rgb *= background.w;
 #endif
 #ifdef FLOOR
     // What is there already is the mirror image. Both fade into the background before the floor ends.
-    float seen = 1.0 - smoothstep(0.4, 0.9, length(worldPosition - eye.xyz) / eye.w);
+    float seen = 1.0 - smoothstep(0.2, 0.6, length(worldPosition - eye.xyz) / eye.w);
     surface = vec4(mix(background.rgb, surface.rgb, seen), seen);
 #endif
     color = surface;
@@ -152,8 +186,8 @@ void main() { color = vec4(background.rgb * background.w, 1.0); }
 )";
 
 const std::string_view pieceVertex = R"(
-layout(location = 0) in vec4 part;   // left, bottom, right, top: fractions of the picture
-layout(location = 1) in vec2 offset; // from there to the place in the sheet, pixels
+layout(location = 0) in vec4 part;   // left, lower, right, upper edge in the layer: fractions of it
+layout(location = 1) in vec2 offset; // pixels: x in the sheet less x in the layer, the sum of both y
 flat out ivec2 shift;
 void main() {
     vec2 corner = vec2(gl_VertexID & 1, gl_VertexID >> 1);
@@ -167,7 +201,8 @@ uniform sampler2D picture;
 flat in ivec2 shift;
 layout(location = 0) out vec4 color;
 void main() {
-    vec3 linear = texelFetch(picture, ivec2(gl_FragCoord.xy) + shift, 0).rgb;
+    ivec2 pixel = ivec2(gl_FragCoord.xy); // the layer is upside down
+    vec3 linear = texelFetch(picture, ivec2(shift.x + pixel.x, shift.y - pixel.y), 0).rgb;
     vec3 encoded = mix(linear * 12.92, 1.055 * pow(linear, vec3(1.0 / 2.4)) - 0.055, step(0.0031308, linear));
     // Half a step of noise, the same in every frame, hides the steps of slow gradients.
     float noise = fract(52.9829189 * fract(dot(gl_FragCoord.xy, vec2(0.06711056, 0.00583715)))) - 0.5;
@@ -178,7 +213,10 @@ void main() {
 const std::string_view copyFragment = R"(
 uniform sampler2D picture;
 layout(location = 0) out vec4 color;
-void main() { color = texelFetch(picture, ivec2(gl_FragCoord.xy), 0); }
+void main() {
+    ivec2 pixel = ivec2(gl_FragCoord.xy);
+    color = texelFetch(picture, ivec2(pixel.x, textureSize(picture, 0).y - 1 - pixel.y), 0);
+}
 )";
 
 } // namespace vorbel::shaders

@@ -16,7 +16,7 @@ extern const std::string_view surfaceFragment;
 // A triangle over the whole viewport, at the far plane.
 extern const std::string_view screenVertex;
 extern const std::string_view fillFragment; // the background as the floor mirrors it
-extern const std::string_view copyFragment; // a picture as it is
+extern const std::string_view copyFragment; // a picture, turned upside down
 
 // Rectangles, one an instance.
 extern const std::string_view pieceVertex;

@@ -9,39 +9,37 @@ namespace vorbel {
 
 namespace {
 
-constexpr float nearest = 0.5F; // metres: casters closer to the light than this are cut off
+constexpr float nearest = 0.5F;         // metres: casters closer to the light than this are cut off
+constexpr float widestHalfAngle = 1.3F; // radians: one flat map cannot hold half the space
+constexpr float step = 1.0F / 64;       // of the tangents: a hand's width on the court
 
 } // namespace
 
 glm::mat4 ShadowFrustum::viewProjection() const {
-    return glm::frustum(-halfWidth * zNear, halfWidth * zNear, -halfWidth * zNear, halfWidth * zNear, zNear,
-                        zFar) *
-           view;
+    const glm::vec2 low = (middle - halfWidth) * zNear;
+    const glm::vec2 high = (middle + halfWidth) * zNear;
+    return glm::frustum(low.x, high.x, low.y, high.y, zNear, zFar) * view;
 }
 
-bool castsShadow(const DrawItem& item) {
-    return !isFloor(item) && !isSeeThrough(item);
-}
-
-ShadowFrustum shadowFrustum(const SpotLight& spot, const std::vector<DrawItem>& items) {
-    ShadowFrustum frustum;
+glm::mat4 lightView(const SpotLight& spot) {
     const glm::vec3 up = std::abs(spot.direction.y) > 0.999F ? glm::vec3(0, 0, -1) : glm::vec3(0, 1, 0);
-    frustum.view = glm::lookAt(spot.position, spot.position + spot.direction, up);
-    frustum.halfWidth = std::tan(spot.outerHalfAngle);
-    float closest = 1000;
-    float farthest = nearest;
-    for (const DrawItem& item : items) {
-        if (castsShadow(item)) {
-            const Extent extent = extentOf(item);
-            for (const glm::vec3& corner : extent.corners()) {
-                const float depth = glm::dot(corner - spot.position, spot.direction);
-                closest = std::min(closest, depth - extent.margin);
-                farthest = std::max(farthest, depth + extent.margin);
-            }
-        }
+    return glm::lookAt(spot.position, spot.position + spot.direction, up);
+}
+
+ShadowFrustum shadowFrustum(const SpotLight& spot, const LightBounds& bounds) {
+    ShadowFrustum frustum;
+    frustum.view = lightView(spot);
+    const glm::vec2 widest(std::tan(std::min(spot.outerHalfAngle, widestHalfAngle)));
+    const glm::vec2 low = glm::max(glm::floor(bounds.low / step) * step, -widest);
+    const glm::vec2 high = glm::min(glm::ceil(bounds.high / step) * step, widest);
+    if (bounds.empty() || low.x >= high.x || low.y >= high.y) {
+        frustum.halfWidth = widest;
+    } else {
+        frustum.middle = (low + high) / 2.0F;
+        frustum.halfWidth = (high - low) / 2.0F;
     }
-    frustum.zNear = std::max(std::floor(closest), nearest);
-    frustum.zFar = std::max(std::ceil(farthest), frustum.zNear + 1);
+    frustum.zNear = std::max(std::floor(bounds.nearest), nearest);
+    frustum.zFar = std::max(std::ceil(bounds.farthest), frustum.zNear + 1);
     return frustum;
 }
 

@@ -1,25 +1,25 @@
 // What the spot light sees.
 #pragma once
 
-#include "platform/render/Extent.h"
+#include "platform/render/LightBounds.h"
 
 namespace vorbel {
 
 struct ShadowFrustum {
-    glm::mat4 view{1};   // from the arena's frame to the light's, which looks along −z
-    float halfWidth = 1; // tangent of the half angle of the square view
-    float zNear = 1;     // metres
-    float zFar = 2;      // metres
+    glm::mat4 view{1};      // from the arena's frame to the light's, which looks along −z
+    glm::vec2 middle{0};    // of the map: tangents of angles at the light
+    glm::vec2 halfWidth{1}; // from there to the map's edges
+    float zNear = 1;        // metres
+    float zFar = 2;         // metres
     [[nodiscard]] glm::mat4 viewProjection() const;
     bool operator==(const ShadowFrustum&) const = default;
 };
 
-// Whether the item stops light: opaque ones do, the floor has nothing below it.
-[[nodiscard]] bool castsShadow(const DrawItem& item);
+[[nodiscard]] glm::mat4 lightView(const SpotLight& spot);
 
-// As wide as the cone of light, and as deep as the casters need, in whole metres so that a ball in flight
-// does not change it.
-[[nodiscard]] ShadowFrustum shadowFrustum(const SpotLight& spot, const std::vector<DrawItem>& items);
+// As wide as all that is lit and seen, but not wider than the cone of light; as deep as the casters need. In
+// whole steps, so that a moving ball seldom changes it.
+[[nodiscard]] ShadowFrustum shadowFrustum(const SpotLight& spot, const LightBounds& bounds);
 
 // Where the shadow of something ends: on the floor (its plane as in DrawList), and when there is none, at the
 // end of the frustum. The shadow is between there and the thing. `blur` is the radius over which shadows are

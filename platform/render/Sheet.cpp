@@ -37,7 +37,7 @@ bool Sheet::resize(QOpenGLExtraFunctions& gl, int width, int height) {
     gl.glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_STENCIL_ATTACHMENT, GL_RENDERBUFFER, depth_.id());
     const bool complete = isComplete(gl);
 
-    resolved_ = TextureTarget::create(gl, colorFormat, GL_HALF_FLOAT, width, height);
+    resolved_ = TextureTarget::create(gl, colorFormat, GL_RGBA, GL_HALF_FLOAT, width, height);
     if (!complete || !isComplete(gl)) {
         *this = {};
         return false;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <unordered_map>
+#include <utility>
 
 #include <glm/geometric.hpp>
 #include <glm/matrix.hpp>
@@ -40,15 +41,14 @@ const Damage& TrackedFrame::follow(const Frame& next, int width, int height) {
     damage_.seen.clear();
     damage_.lit.clear();
     damage_.moved.clear();
-    const bool itemsDiffer = followItems(next.items);
     const bool viewDiffers = followView(next, width, height);
-    std::optional<SpotLight> spot = next.spot;
-    if (spot) {
-        spot->shadowMapSize = std::clamp(spot->shadowMapSize, 1, largestShadowMap_);
+    const bool spotDiffers = followSpot(next);
+    const bool itemsDiffer = followItems(next.items);
+    if (viewDiffers || spotDiffers) {
+        measureAll();
     }
-    if ((itemsDiffer || !drawn_ || spot != frame_.spot) && followLight(spot, next.items)) {
-        damage_.shadowMap = true;
-    }
+    const bool shadowsDiffer = (itemsDiffer || viewDiffers || spotDiffers) && followShadows();
+    damage_.shadowMap = spotDiffers || shadowsDiffer;
     damage_.picture = damage_.picture || damage_.shadowMap || viewDiffers || next.ambient != frame_.ambient;
     frame_.ambient = next.ambient;
     if (damage_.picture) {
@@ -114,17 +114,30 @@ void TrackedFrame::restructure(const std::vector<DrawItem>& next) {
     damage_.picture = damage_.picture || floors != (floorOf(frame_) != nullptr ? 1 : 0);
 }
 
-// Whether the light, or the depth of what it shines on, has changed.
-bool TrackedFrame::followLight(const std::optional<SpotLight>& spot, const std::vector<DrawItem>& items) {
-    const ShadowFrustum frustum = spot ? shadowFrustum(*spot, items) : ShadowFrustum{};
-    const bool same = drawn_ && spot == frame_.spot && frustum == frustum_;
-    frame_.spot = spot;
-    frustum_ = frustum;
+bool TrackedFrame::followSpot(const Frame& next) {
+    std::optional<SpotLight> spot = next.spot;
     if (spot) {
-        const int size = spot->shadowMapSize;
-        light_ = {frustum.view, glm::vec2(frustum.halfWidth), size, size, frustum.zNear};
+        spot->shadowMapSize = std::clamp(spot->shadowMapSize, 1, largestShadowMap_);
     }
+    const bool same = drawn_ && spot == frame_.spot;
+    frame_.spot = spot;
+    toLight_ = spot ? lightView(*spot) : glm::mat4(1);
     return !same;
+}
+
+// Whether the shadow map has to hold something else than before.
+bool TrackedFrame::followShadows() {
+    ShadowFrustum frustum;
+    if (frame_.spot) {
+        LightBounds all;
+        for (const ItemBounds& bounds : bounds_) {
+            all.add(bounds.light);
+        }
+        frustum = shadowFrustum(*frame_.spot, all);
+        const int size = frame_.spot->shadowMapSize;
+        light_ = {frustum.view, frustum.halfWidth, size, size, frustum.zNear, frustum.middle};
+    }
+    return std::exchange(frustum_, frustum) != frustum;
 }
 
 bool TrackedFrame::followView(const Frame& next, int width, int height) {
@@ -156,8 +169,13 @@ ItemBounds TrackedFrame::measure(const DrawItem& item) const {
     if (floor_) {
         bounds.mirror = view_.bounds(mirrored(extent, *floor_));
     }
-    if (frame_.spot && frame_.spot->castsShadow && castsShadow(item)) {
-        const float texel = 2 * frustum_.halfWidth / static_cast<float>(frame_.spot->shadowMapSize);
+    if (!frame_.spot || !frame_.spot->castsShadow) {
+        return bounds;
+    }
+    bounds.light = lightBounds(item, toLight_, view_);
+    if (castsShadow(item)) {
+        const float texel = 2 * std::max(frustum_.halfWidth.x, frustum_.halfWidth.y) /
+                            static_cast<float>(frame_.spot->shadowMapSize);
         const float blur = (frame_.spot->shadowRadius + 2) * texel; // and two texels of filtering
         bounds.shadow = view_.bounds(shadowExtent(extent, *frame_.spot, frustum_, blur, floor_));
         bounds.lit = light_.bounds(extent);

@@ -10,10 +10,11 @@ namespace vorbel {
 
 // Where an item leaves traces; empty rectangles where it leaves none.
 struct ItemBounds {
-    PixelRect seen;   // in the picture
-    PixelRect shadow; // in the picture: the item and its shadow
-    PixelRect mirror; // in the picture: its image in the floor
-    PixelRect lit;    // in the shadow map, texels
+    PixelRect seen;    // in the picture
+    PixelRect shadow;  // in the picture: the item and its shadow
+    PixelRect mirror;  // in the picture: its image in the floor
+    PixelRect lit;     // in the shadow map, texels
+    LightBounds light; // empty without a light that casts shadows
 };
 
 struct Damage {
@@ -54,7 +55,8 @@ public:
 private:
     bool followItems(const std::vector<DrawItem>& next);
     void restructure(const std::vector<DrawItem>& next);
-    bool followLight(const std::optional<SpotLight>& spot, const std::vector<DrawItem>& items);
+    bool followSpot(const Frame& next);
+    bool followShadows();
     bool followView(const Frame& next, int width, int height);
     void replace(std::size_t index, const DrawItem& next);
     void measureAll();
@@ -67,6 +69,7 @@ private:
     std::vector<ItemBounds> bounds_;
     ShadowFrustum frustum_;
     Perspective view_;
+    glm::mat4 toLight_{1};
     Perspective light_;
     std::optional<glm::vec4> floor_;
     Damage damage_;

@@ -78,16 +78,17 @@ LightUniforms lightUniforms(const Frame& frame, const ShadowFrustum& frustum) {
     lights.position = glm::vec4(spot.position, 1);
     lights.direction = glm::vec4(spot.direction, 0);
     lights.strength = glm::vec4(spot.strength, 0);
+    const glm::vec2 width = 2.0F * frustum.halfWidth;
+    lights.cone = {std::cos(spot.innerHalfAngle), std::cos(spot.outerHalfAngle),
+                   width / static_cast<float>(spot.shadowMapSize)};
+    lights.shadowPlace = {1.0F / width, 0.5F - frustum.middle / width};
     const float inverseNear = 1 / frustum.zNear;
-    const float inverseWidth = 1 / (2 * frustum.halfWidth);
-    const float texel = 1 / (inverseWidth * static_cast<float>(spot.shadowMapSize));
-    lights.cone = {std::cos(spot.innerHalfAngle), std::cos(spot.outerHalfAngle), texel, 0};
-    lights.shadowScale = {inverseNear, 1 / (inverseNear - 1 / frustum.zFar), inverseWidth, spot.shadowBias};
+    lights.shadowDepth = {inverseNear, 1 / (inverseNear - 1 / frustum.zFar), spot.shadowBias, 0};
     const int count = std::clamp(spot.shadowSampleCount, 1, shadowSamples);
     for (int i = 0; i < shadowSamples; ++i) {
         const glm::vec2 offset =
             discSample(i % count, count) * spot.shadowRadius / static_cast<float>(spot.shadowMapSize);
-        lights.shadowOffset[i] = glm::vec4(offset, offset / inverseWidth);
+        lights.shadowOffset[i] = glm::vec4(offset, offset * width);
     }
     return lights;
 }

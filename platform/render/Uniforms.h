@@ -23,7 +23,8 @@ struct LightUniforms {
     glm::vec4 direction{0, -1, 0, 0};
     glm::vec4 strength{0};
     glm::vec4 cone{0};
-    glm::vec4 shadowScale{0};
+    glm::vec4 shadowPlace{0};
+    glm::vec4 shadowDepth{0};
     glm::vec4 shadowOffset[shadowSamples]{};
 };
 

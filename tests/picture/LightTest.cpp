@@ -49,23 +49,24 @@ TEST_F(LightTest, BrightSurfacesEndAtFullWhite) {
 
 TEST_F(LightTest, OnlyAmbientLightReachesBeyondTheOuterAngle) {
     addGround();
-    spot->setPosition({0, 2, 0}); // the circle of light has a radius of 1.27 m
+    spot->setPosition({0, 0.8, 0}); // 65 degrees from the axis: a circle with a radius of 1.72 m
     const QImage image = draw();
     const double ambient = encoded(greyLight * 0.15);
-    EXPECT_NEAR(encodedAt(image, {1.4, 0, 0}), ambient, colorStep);
-    EXPECT_NEAR(encodedAt(image, {-1.4, 0, 0}), ambient, colorStep);
-    EXPECT_GT(encodedAt(image, {1.1, 0, 0}), ambient + 5 * colorStep);
+    EXPECT_NEAR(encodedAt(image, {1.85, 0, 0}), ambient, colorStep);
+    EXPECT_NEAR(encodedAt(image, {-1.85, 0, 0}), ambient, colorStep);
+    EXPECT_GT(encodedAt(image, {1.4, 0, 0}), ambient + 5 * colorStep);
 }
 
 TEST_F(LightTest, ConeIsFullyBrightInsideTheInnerAngleAndFadesEvenly) {
     addGround();
-    spot->setPosition({0, 2, 0});
+    constexpr double lampHeight = 0.8;
+    spot->setPosition({0, lampHeight, 0});
     const QImage image = draw();
-    const double inner = 2 * std::tan(17.0 * std::acos(0.0) / 90);
-    EXPECT_NEAR(encodedAt(image, {inner, 0, 0}),
-                encoded(greyLight * (0.15 + 1.5 * std::cos(std::atan(inner / 2)))), 3 * colorStep);
+    const double inner = 34.0 * std::acos(0.0) / 90; // radians from the axis, a degree inside
+    EXPECT_NEAR(encodedAt(image, {lampHeight * std::tan(inner), 0, 0}),
+                encoded(greyLight * (0.15 + 1.5 * std::cos(inner))), 3 * colorStep);
     double last = encodedAt(image, {0, 0, 0});
-    for (double x = 0; x < 1.4; x += 0.05) {
+    for (double x = 0; x < 1.8; x += 0.05) {
         const double now = encodedAt(image, {x, 0, 0});
         EXPECT_LE(now, last + colorStep) << "at " << x << " m";
         EXPECT_GT(now, last - 0.12) << "a jump at " << x << " m";

@@ -133,6 +133,60 @@ TEST_F(SurfaceTest, EdgesAreSmooth) {
     EXPECT_GE(values.size(), 5U) << "at least three steps between black and white";
 }
 
+// The mean and the extremes of green, as linear light, over the disc of a ball at the origin.
+struct DiscLight {
+    double mean = 0;
+    double darkest = 1;
+    double lightest = 0;
+};
+
+DiscLight discLight(const QImage& drawn, const QPoint& centre, double radius) {
+    DiscLight light;
+    int count = 0;
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x) {
+            if (std::hypot(x - centre.x(), y - centre.y()) < radius) {
+                const auto here =
+                    static_cast<double>(linearLight(static_cast<float>(drawn.pixelColor(x, y).greenF())));
+                light.mean += here;
+                light.darkest = std::min(light.darkest, here);
+                light.lightest = std::max(light.lightest, here);
+                ++count;
+            }
+        }
+    }
+    light.mean /= count;
+    return light;
+}
+
+TEST_F(SurfaceTest, PanelsAndSeamsOfABallHaveItsColourAllTogether) {
+    const Node::Ptr ball = add(Sphere{1}, {.diffuse = {0.5F, 0.5F, 0.5F}, .unlit = true, .seams = true});
+    double mean = 0;
+    for (int turn = 0; turn < 5; ++turn) {
+        ball->setEulerAngles({0.7 * turn, 0.4 * turn, 0});
+        const DiscLight light = discLight(draw(), pixelAt({0, 0, 0}), 34);
+        EXPECT_GT(light.lightest, 1.3 * light.darkest) << "the pattern is seen";
+        mean += light.mean / 5;
+    }
+    EXPECT_NEAR(mean, static_cast<double>(linearLight(0.5F)), 0.006);
+}
+
+TEST_F(SurfaceTest, SmallBallIsPlain) {
+    add(Sphere{0.12}, {.diffuse = {0.5F, 0.5F, 0.5F}, .unlit = true, .seams = true}); // 9 pixels across
+    const DiscLight light = discLight(draw(), pixelAt({0, 0, 0}), 3);
+    EXPECT_LT(light.lightest, 1.03 * light.darkest);
+}
+
+TEST_F(SurfaceTest, GlowingBarHasDarkEdges) {
+    scene.root->children().front()->setPosition({0, 0.1, 0.2});
+    scene.root->children().front()->setEulerAngles({-std::atan2(0.1, 0.2), 0, 0});
+    add(Box{0.4, 0.02, 0.02}, {.diffuse = colors::systemRed, .emission = colors::systemRed});
+    const QImage drawn = draw();
+    EXPECT_GT(colorAt(drawn, {0, 0.01, 0}).red(), 250);
+    EXPECT_LT(colorAt(drawn, {0, 0.01, -0.009}).red(), 110);
+    EXPECT_LT(colorAt(drawn, {0, 0.01, 0.009}).red(), 110);
+}
+
 TEST_F(SurfaceTest, LayersAMillimetreApartDoNotMixAtTenMetres) {
     scene.root->children().front()->setPosition({0, 2, 10});
     scene.root->children().front()->setEulerAngles({-std::atan2(2.0, 10.0), 0, 0});

@@ -96,7 +96,7 @@ TEST(Frame, SpotLightLooksAtItsTarget) {
         ASSERT_TRUE(frame.spot);
         const glm::vec3 wanted = glm::normalize(glm::vec3(Vec3(0, 0, -6.25) - place));
         EXPECT_LT(glm::distance(frame.spot->direction, wanted), 1e-6F);
-        EXPECT_FLOAT_EQ(frame.spot->outerHalfAngle, 32.5F * std::numbers::pi_v<float> / 180);
+        EXPECT_FLOAT_EQ(frame.spot->outerHalfAngle, 65 * std::numbers::pi_v<float> / 180);
     }
 }
 

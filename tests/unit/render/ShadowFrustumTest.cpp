@@ -13,34 +13,88 @@ DrawItem ballAt(const glm::vec3& place) {
     return {nullptr, Sphere{1}, {}, glm::scale(glm::translate(glm::mat4(1), place), glm::vec3(0.05F)), 1};
 }
 
+DrawItem boxAt(const glm::vec3& place, const glm::vec3& size) {
+    return {nullptr, Box{1, 1, 1}, {}, glm::scale(glm::translate(glm::mat4(1), place), size), 1};
+}
+
 SpotLight courtLight() {
     SpotLight spot;
     spot.position = {0, 12, -6.25F};
-    spot.outerHalfAngle = glm::radians(32.5F);
+    spot.outerHalfAngle = glm::radians(65.0F);
     spot.castsShadow = true;
     return spot;
 }
 
-TEST(ShadowFrustum, IsAsWideAsTheConeOfLight) {
-    const ShadowFrustum frustum = shadowFrustum(courtLight(), {ballAt({0, 0.035F, -6})});
-    const float edge = 12 * std::tan(glm::radians(32.5F));
-    const glm::vec4 clip = frustum.viewProjection() * glm::vec4(edge, 0, -6.25F, 1);
-    EXPECT_NEAR(std::abs(clip.x / clip.w), 1, 1e-4);
+// Level, 1.2 m above the ground, looking along −z; 90 degrees across.
+Perspective camera() {
+    return {glm::translate(glm::mat4(1), {0, -1.2F, 0}), {1, 1}, 600, 400, 0.1F};
 }
 
-TEST(ShadowFrustum, HoldsAllCasters) {
-    const std::vector<DrawItem> items = {ballAt({0, 0.035F, -6}), ballAt({2, 3.2F, -9})};
-    const ShadowFrustum frustum = shadowFrustum(courtLight(), items);
+ShadowFrustum frustumFor(const std::vector<DrawItem>& items) {
+    LightBounds all;
     for (const DrawItem& item : items) {
-        const glm::vec4 clip = frustum.viewProjection() * item.world[3];
-        EXPECT_LT(std::abs(clip.z), clip.w);
+        all.add(lightBounds(item, lightView(courtLight()), camera()));
     }
+    return shadowFrustum(courtLight(), all);
+}
+
+// Where the point is in the map: from −1 to 1 along each axis when it is inside.
+glm::vec3 placeIn(const ShadowFrustum& frustum, const glm::vec3& point) {
+    const glm::vec4 clip = frustum.viewProjection() * glm::vec4(point, 1);
+    return glm::vec3(clip) / clip.w;
+}
+
+TEST(ShadowFrustum, EndsWithTheConeOfLight) {
+    const ShadowFrustum frustum = frustumFor({boxAt({0, -0.05F, 0}, {400, 0.1F, 400})});
+    const float edge = 12 * std::tan(glm::radians(65.0F));
+    EXPECT_NEAR(std::abs(placeIn(frustum, {edge, 0, -6.25F}).x), 1, 1e-4);
+}
+
+TEST(ShadowFrustum, EndsWithWhatIsLitAndSeen) {
+    const glm::vec3 left{-2, 0.05F, -9};
+    const glm::vec3 right{1, 0.05F, -4};
+    const ShadowFrustum frustum = frustumFor({ballAt(left), ballAt(right)});
+    EXPECT_LT(placeIn(frustum, left - glm::vec3(0.05F, 0, 0)).x, -0.8F);
+    EXPECT_GT(placeIn(frustum, left - glm::vec3(0.05F, 0, 0)).x, -1);
+    EXPECT_GT(placeIn(frustum, right + glm::vec3(0.05F, 0, 0)).x, 0.8F);
+    EXPECT_LT(placeIn(frustum, right + glm::vec3(0.05F, 0, 0)).x, 1);
+    EXPECT_GT(std::abs(placeIn(frustum, left).y), 0.8F);
+    EXPECT_GT(std::abs(placeIn(frustum, right).y), 0.8F);
+}
+
+TEST(ShadowFrustum, LeavesOutWhatIsBesideAndBehindTheCamera) {
+    const DrawItem court = boxAt({0, -0.05F, -5}, {6, 0.1F, 30});
+    const ShadowFrustum frustum = frustumFor({court});
+    EXPECT_GT(std::abs(placeIn(frustum, {0, 0, -1.1F}).y), 1) << "below the picture";
+    EXPECT_LT(std::abs(placeIn(frustum, {0, 0, -1.3F}).y), 1);
+    EXPECT_LT(std::abs(placeIn(frustum, {3, 0, -19.9F}).y), 1);
+    const ShadowFrustum withMore = frustumFor({court, ballAt({0, 0.05F, 4}), ballAt({-20, 0.05F, -6})});
+    EXPECT_EQ(withMore.middle, frustum.middle);
+    EXPECT_EQ(withMore.halfWidth, frustum.halfWidth);
+}
+
+TEST(ShadowFrustum, LeavesOutSidesThatTurnAway) {
+    const DrawItem step = boxAt({5, 1, -8}, {2, 2, 40}); // its top is higher than the eye
+    const ShadowFrustum frustum = frustumFor({step});
+    EXPECT_LT(placeIn(frustum, {4, 2, -8}).x, 1.0F);
+    EXPECT_GT(placeIn(frustum, {6, 2, -8}).x, 1.1F);
+}
+
+TEST(ShadowFrustum, LeavesOutWhatIsNotLit) {
+    DrawItem lamp = ballAt({-5, 0.05F, -9});
+    lamp.material.unlit = true;
+    EXPECT_EQ(frustumFor({ballAt({0, 0.05F, -6}), lamp}), frustumFor({ballAt({0, 0.05F, -6})}));
+}
+
+TEST(ShadowFrustum, IsDeepEnoughForAllCasters) {
+    const ShadowFrustum frustum = frustumFor({ballAt({0, 0.035F, -6}), ballAt({2, 3.2F, -9})});
+    EXPECT_LT(std::abs(placeIn(frustum, {0, -0.015F, -6}).z), 1);
+    EXPECT_LT(std::abs(placeIn(frustum, {2, 3.25F, -9}).z), 1);
 }
 
 TEST(ShadowFrustum, StaysTheSameWhileABallRolls) {
-    const DrawItem court = {nullptr, Box{1, 1, 1}, {}, glm::scale(glm::mat4(1), {6, 0.1F, 12.5F}), 1};
-    EXPECT_EQ(shadowFrustum(courtLight(), {court, ballAt({0, 0.035F, -6})}),
-              shadowFrustum(courtLight(), {court, ballAt({2, 0.035F, -3})}));
+    const DrawItem court = boxAt({0, -0.05F, -6.25F}, {6, 0.1F, 12.5F});
+    EXPECT_EQ(frustumFor({court, ballAt({0, 0.035F, -6})}), frustumFor({court, ballAt({2, 0.035F, -3})}));
 }
 
 TEST(ShadowFrustum, FloorsAndSeeThroughItemsCastNoShadow) {
@@ -57,8 +111,8 @@ TEST(ShadowFrustum, FloorsAndSeeThroughItemsCastNoShadow) {
 TEST(ShadowFrustum, ShadowReachesTheFloorAwayFromTheLight) {
     const Extent ball = extentOf(ballAt({3, 1, -6.25F}));
     const SpotLight spot = courtLight();
-    const Extent shadow = shadowExtent(ball, spot, shadowFrustum(spot, std::vector{ballAt({3, 1, -6.25F})}),
-                                       0, glm::vec4(0, 1, 0, 0.05F));
+    const Extent shadow =
+        shadowExtent(ball, spot, frustumFor({ballAt({3, 1, -6.25F})}), 0, glm::vec4(0, 1, 0, 0.05F));
     glm::vec3 low(1e9F);
     glm::vec3 high(-1e9F);
     for (const glm::vec3& corner : shadow.corners()) {

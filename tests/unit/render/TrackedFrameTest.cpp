@@ -15,13 +15,25 @@ protected:
     TrackedFrameTest() {
         frame.camera.world = glm::translate(glm::mat4(1), {0, 1, 0});
         frame.spot = SpotLight{.position = {0, 12, -6}, .castsShadow = true, .shadowMapSize = 1024};
-        frame.items = {{nodes.data(), Floor{0.05}, {}, glm::mat4(1), 1}, ballAt(1, -4), ballAt(2, -8)};
+        frame.items = {{nodes.data(), Floor{0.05}, {}, glm::mat4(1), 1},
+                       ballAt(1, -4),
+                       ballAt(2, -8),
+                       postAt(4, {-1.5F, 0.05F, -2}),
+                       postAt(5, {3, 0.05F, -12})};
         follow();
     }
 
     [[nodiscard]] DrawItem ballAt(std::size_t node, float z) const {
         const glm::mat4 place = glm::translate(glm::mat4(1), {0, 0.1F, z});
         return {&nodes[node], Sphere{1}, {}, glm::scale(place, glm::vec3(0.1F)), 1};
+    }
+    // Two of them keep what the shadow map holds the same while balls move between them.
+    [[nodiscard]] DrawItem postAt(std::size_t node, const glm::vec3& place) const {
+        return {&nodes[node],
+                Box{1, 1, 1},
+                {},
+                glm::scale(glm::translate(glm::mat4(1), place), glm::vec3(0.1F)),
+                1};
     }
     const Damage& follow() { return followAndDraw(width); }
     const Damage& followAndDraw(int pictureWidth) {
@@ -30,7 +42,7 @@ protected:
         return damage;
     }
 
-    std::array<char, 4> nodes{}; // stand for nodes: only their addresses count
+    std::array<char, 6> nodes{}; // stand for nodes: only their addresses count
     Frame frame;
     TrackedFrame tracked{8192};
 };
@@ -99,7 +111,7 @@ TEST_F(TrackedFrameTest, NewBallInTheMiddleDamagesOnlyItsOwnPlace) {
     EXPECT_FALSE(damage.picture);
     ASSERT_EQ(damage.seen.size(), 1U);
     EXPECT_TRUE(damage.seen[0].contains(tracked.bounds()[1].seen));
-    EXPECT_EQ(tracked.bounds().size(), 4U);
+    EXPECT_EQ(tracked.bounds().size(), 6U);
 }
 
 TEST_F(TrackedFrameTest, AnotherNodeAtTheSamePlaceIsAChange) {
