@@ -9,6 +9,7 @@
 #include "app/text/Fonts.h"
 #include "app/window/ContentView.h"
 #include "app/window/Display.h"
+#include "app/window/PointSize.h"
 #include "platform/audio/SdlAudio.h"
 #include "platform/runloop/QtMainQueue.h"
 #include "platform/store/SettingsDefaults.h"
@@ -17,6 +18,7 @@
 #include <QIcon>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
+#include <QScreen>
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <optional>
@@ -75,8 +77,13 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
                      [&shell] { shell.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(platform.resources));
     QQmlApplicationEngine engine;
+    const QSize smallest = smallestWindow(QGuiApplication::primaryScreen()->availableSize());
     engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)},
-                                 {QStringLiteral("shell"), QVariant::fromValue(&shell)}});
+                                 {QStringLiteral("shell"), QVariant::fromValue(&shell)},
+                                 {QStringLiteral("width"), smallest.width()},
+                                 {QStringLiteral("height"), smallest.height()},
+                                 {QStringLiteral("minimumWidth"), smallest.width()},
+                                 {QStringLiteral("minimumHeight"), smallest.height()}});
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Vorbel/qml/window/Main.qml")));
     auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
@@ -86,7 +93,10 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     prepareWindow(*window);
     QtWindowFrame frame(*window);
     shell.setWindow(frame);
-    QObject::connect(&frame, &QtWindowFrame::screenChanged, &shell, &VorbelApp::followScreen);
+    QObject::connect(&frame, &QtWindowFrame::screenChanged, &shell, [&shell, window] {
+        window->setMinimumSize(smallestWindow(window->screen()->availableSize()));
+        shell.followScreen();
+    });
     view.appear();
     std::optional<Demonstration> demonstration;
     if (commandLine.action == CommandLine::Action::demonstrate) {

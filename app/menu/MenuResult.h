@@ -48,7 +48,7 @@ public:
     [[nodiscard]] int redScore() const { return contents_.redScore; }
     [[nodiscard]] int blueScore() const { return contents_.blueScore; }
     [[nodiscard]] const QString& matchResultButtonLabel() const { return contents_.buttonLabel; }
-    [[nodiscard]] const QString& redName() const { return contents_.redName; } // for screen readers
+    [[nodiscard]] const QString& redName() const { return contents_.redName; }
     [[nodiscard]] const QString& blueName() const { return contents_.blueName; }
 
 signals:

@@ -1,4 +1,4 @@
-// Colours and measures that the whole interface shares, in logical pixels.
+// Colours and measures that the whole interface shares, in points.
 pragma Singleton
 import QtQuick
 
@@ -9,13 +9,16 @@ QtObject {
     readonly property color orange: "#ff9f0a"
     readonly property color link: "#7db8ff"
     readonly property color panel: Qt.rgba(0, 0, 0, 0.75)
+    readonly property color shade: Qt.rgba(0, 0, 0, 0.45) // under a panel: all its texts stay legible over white
     readonly property color bar: "#16161f"
     readonly property color menu: "#22222e"
     readonly property color hairline: Qt.rgba(1, 1, 1, 0.1)
 
     readonly property int margin: 20
+    readonly property int hudMargin: 6 // around the panels at the upper edge, which end above crowd and flags
     readonly property int padding: 20
     readonly property int gap: 8
+    readonly property int pointsGap: 32 // between the sides' points, so that their names fit above them
     readonly property int radius: 14
     readonly property int buttonRadius: 6
     readonly property int ring: 4 // how far the focus ring lies outside of its control
@@ -23,8 +26,12 @@ QtObject {
     readonly property int caption: 13
     readonly property int body: 15
     readonly property int headline: 18
+    readonly property int sideTitle: 20
     readonly property int title: 24
     readonly property int hugeTitle: 42
+
+    property real point: 1 // in pixels of the window, which sets it
+    readonly property real thinLine: Math.max(1, 1 / point) // a pixel at least
 
     property string fontFamily: Qt.application.font.family // of the player's language; the window follows it
 

@@ -10,7 +10,7 @@ Row {
     required property color ballColor
     readonly property int ballsPerSide: 6
 
-    spacing: Theme.gap
+    spacing: 4
     Accessible.ignored: true
 
     Repeater {
@@ -22,9 +22,9 @@ Row {
             required property int index
             readonly property bool isToThrow: index < balls.count
 
-            width: 12
-            height: 12
-            radius: 6
+            width: 10
+            height: 10
+            radius: 5
             color: ball.isToThrow ? balls.ballColor : "transparent"
             border.color: ball.isToThrow ? "transparent" : Theme.white(0.3)
         }

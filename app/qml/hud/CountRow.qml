@@ -11,7 +11,6 @@ RowLayout {
     required property int count
 
     spacing: Theme.gap
-    Layout.fillWidth: true
 
     Accessible.role: Accessible.StaticText
     Accessible.name: side + ", " + label + " " + count
@@ -23,7 +22,7 @@ RowLayout {
         font.family: Theme.fontFamily
         font.pixelSize: Theme.body
         textFormat: Text.PlainText
-        Layout.fillWidth: true
+        Layout.alignment: Qt.AlignBaseline
     }
     Text {
         text: row.count
@@ -32,5 +31,6 @@ RowLayout {
         font.pixelSize: Theme.headline
         font.bold: true
         textFormat: Text.PlainText
+        Layout.alignment: Qt.AlignBaseline
     }
 }

@@ -14,7 +14,7 @@ Item {
 
     SidePanel {
         id: red
-        anchors { left: parent.left; top: parent.top; margins: Theme.margin }
+        anchors { left: parent.left; top: parent.top; margins: Theme.hudMargin }
         title: display.hud.redTitle
         sideColor: Theme.red
         scoreLabel: display.hud.scoreLabel
@@ -28,15 +28,15 @@ Item {
         onAiToggled: on => display.settings.redAIOn = on
     }
     MatchPanel {
-        anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.margin }
+        anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.hudMargin }
         hud: display.hud
         difficultyIndex: display.settings.difficultyIndex
-        maximumWidth: display.width - 2 * (Math.max(red.width, blue.width) + 2 * Theme.margin)
+        maximumWidth: display.width - 2 * (Math.max(red.width, blue.width) + 2 * Theme.hudMargin)
         onDifficultyChosen: index => display.settings.difficultyIndex = index
     }
     SidePanel {
         id: blue
-        anchors { right: parent.right; top: parent.top; margins: Theme.margin }
+        anchors { right: parent.right; top: parent.top; margins: Theme.hudMargin }
         title: display.hud.blueTitle
         sideColor: Theme.blue
         scoreLabel: display.hud.scoreLabel

@@ -13,6 +13,12 @@ Rectangle {
     radius: Theme.radius
     border.color: Theme.hairline
 
+    Rectangle {
+        z: -1 // under the backdrop
+        anchors.fill: parent
+        radius: panel.radius
+        color: Theme.shade
+    }
     Item {
         id: holder
         anchors.fill: parent

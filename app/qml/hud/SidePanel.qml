@@ -25,38 +25,44 @@ Panel {
     ColumnLayout {
         LayoutMirroring.enabled: side.rightToLeft
         LayoutMirroring.childrenInherit: true
-        spacing: Theme.gap
-        width: Math.max(implicitWidth, 150)
+        spacing: 4
 
-        Label {
-            text: side.title
-            color: side.sideColor
-            font.pixelSize: Theme.title
-            font.weight: Font.Black
-            Layout.fillWidth: true
+        RowLayout {
+            spacing: 2 * Theme.gap
+
+            Label {
+                text: side.title
+                color: side.sideColor
+                font.pixelSize: Theme.sideTitle
+                font.weight: Font.Black
+                Layout.fillWidth: true
+            }
+            ToggleSwitch {
+                text: side.aiLabel
+                accessibleName: side.aiLabel + ", " + side.title
+                on: side.aiOn
+                tint: side.sideColor
+                onSwitched: on => side.aiToggled(on)
+            }
         }
         CountRow {
             side: side.title
             label: side.scoreLabel
             count: side.score
         }
-        CountRow {
-            side: side.title
-            label: side.ballsLeftLabel
-            count: side.ballsLeft
-        }
-        BallsLeft {
-            count: side.ballsLeft
-            ballColor: side.sideColor
-        }
-        ToggleSwitch {
-            Layout.topMargin: 4
-            Layout.fillWidth: true
-            text: side.aiLabel
-            accessibleName: side.aiLabel + ", " + side.title
-            on: side.aiOn
-            tint: side.sideColor
-            onSwitched: on => side.aiToggled(on)
+        RowLayout {
+            spacing: Theme.gap
+
+            CountRow {
+                side: side.title
+                label: side.ballsLeftLabel
+                count: side.ballsLeft
+                Layout.fillWidth: true
+            }
+            BallsLeft {
+                count: side.ballsLeft
+                ballColor: side.sideColor
+            }
         }
     }
 }

@@ -39,7 +39,7 @@ Item {
     }
     Rectangle {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        height: 1
+        height: Theme.thinLine
         color: Theme.hairline
     }
 }

@@ -16,7 +16,10 @@ MenuBackdrop {
     Image {
         source: screen.menu.logo
         visible: status === Image.Ready
-        sourceSize { width: 128 * Screen.devicePixelRatio; height: 96 * Screen.devicePixelRatio }
+        sourceSize {
+            width: 128 * Theme.point * Screen.devicePixelRatio
+            height: 96 * Theme.point * Screen.devicePixelRatio
+        }
         fillMode: Image.PreserveAspectFit
         Layout.preferredHeight: 96
         Layout.preferredWidth: 128

@@ -12,6 +12,28 @@ FocusScope {
     LayoutMirroring.enabled: menu.rightToLeft
     LayoutMirroring.childrenInherit: true
 
+    // How a match ended is seen first; then its result comes in.
+    states: State {
+        name: "result"
+        when: overlay.menu.screen === MenuModel.MatchResult
+    }
+    transitions: [
+        Transition {
+            to: "result"
+
+            SequentialAnimation {
+                PropertyAction { target: overlay; property: "opacity"; value: 0 }
+                PauseAnimation { duration: 1200 }
+                NumberAnimation { target: overlay; property: "opacity"; to: 1; duration: 600; easing.type: Easing.InOutQuad }
+            }
+        },
+        Transition {
+            from: "result"
+
+            PropertyAction { target: overlay; property: "opacity"; value: 1 }
+        }
+    ]
+
     Repeater {
         model: overlay.menu.screen === MenuModel.Main ? 1 : 0
 

@@ -59,5 +59,7 @@ Item {
         textFormat: Text.PlainText
         horizontalAlignment: Text.AlignHCenter
         Layout.preferredWidth: 60
+        Layout.leftMargin: Theme.pointsGap / 2
+        Layout.rightMargin: Theme.pointsGap / 2
     }
 }

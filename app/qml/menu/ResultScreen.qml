@@ -31,6 +31,13 @@ MenuBackdrop {
         font.bold: true
         Layout.alignment: Qt.AlignHCenter
     }
+    ResultHeading {
+        redName: screen.result.redName
+        blueName: screen.result.blueName
+        Layout.preferredWidth: total.implicitWidth
+        Layout.alignment: Qt.AlignHCenter
+        Layout.bottomMargin: Theme.gap - screen.spacing
+    }
     ListView {
         id: ends
         model: screen.result.ends
@@ -77,7 +84,7 @@ MenuBackdrop {
 
         Rectangle {
             width: parent.width
-            height: 1
+            height: Theme.thinLine
             color: Theme.white(0.25)
         }
     }

@@ -9,7 +9,7 @@ T.MenuSeparator {
     verticalPadding: 5
 
     contentItem: Rectangle {
-        implicitHeight: 1
+        implicitHeight: Theme.thinLine
         color: Theme.white(0.2)
     }
 }

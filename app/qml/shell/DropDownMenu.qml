@@ -26,6 +26,8 @@ T.Menu {
     implicitWidth: Math.max(220, widest + leftPadding + rightPadding)
     implicitHeight: contentHeight + topPadding + bottomPadding
     margins: 0
+    scale: Theme.point // it lies over the window, not in the bar
+    onAboutToShow: transformOrigin = Item.TopLeft // its place is where it begins, in a mirrored bar too
     padding: 6
 
     contentItem: ListView {

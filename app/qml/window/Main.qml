@@ -10,6 +10,7 @@ Window {
 
     visible: true
     title: "VORBEL"
+    // For small screens the program has smaller ones.
     width: 1200
     height: 800
     minimumWidth: 1200
@@ -22,33 +23,43 @@ Window {
         value: window.view.settings.fontFamily
     }
 
+    Binding {
+        target: Theme
+        property: "point"
+        value: area.scale
+    }
     SceneView {
         id: scene
         anchors.fill: parent
         view: window.view
     }
-    Label {
-        anchors.centerIn: parent
-        width: parent.width - 2 * Theme.margin
-        visible: text.length > 0
-        text: scene.problem
-        horizontalAlignment: Text.AlignHCenter
-        wrapMode: Text.Wrap
-    }
-    Hud {
-        anchors { fill: parent; topMargin: gameMenu.coveredHeight }
-        enabled: !window.view.menu.open
-        opacity: enabled ? 1 : 0.4 // its bright message must not shine through the menu
-        view: window.view
-    }
-    Menu {
-        anchors { fill: parent; topMargin: gameMenu.coveredHeight }
-        menu: window.view.menu
-    }
-    GameMenuBar {
-        id: gameMenu
-        width: parent.width
-        shell: window.shell
+    PointArea {
+        id: area
+
+        Label {
+            anchors.centerIn: parent
+            width: parent.width - 2 * Theme.margin
+            visible: text.length > 0
+            text: scene.problem
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+        }
+        Hud {
+            anchors { fill: parent; topMargin: gameMenu.coveredHeight }
+            enabled: !window.view.menu.open
+            opacity: enabled ? 1 : 1 - 0.6 * menu.opacity // its bright message must not shine through the menu
+            view: window.view
+        }
+        Menu {
+            id: menu
+            anchors { fill: parent; topMargin: gameMenu.coveredHeight }
+            menu: window.view.menu
+        }
+        GameMenuBar {
+            id: gameMenu
+            width: parent.width
+            shell: window.shell
+        }
     }
     GameKeys {
         keyboard: window.view.keyboard

@@ -14,8 +14,8 @@ namespace vorbel {
 
 // Where a window of the smallest size in the screen's upper left corner shows what is looked at.
 inline constexpr QPoint court(600, 450);
-inline constexpr QPoint redBorder(20, 150); // lit while it is that side's turn
-inline constexpr QPoint blueBorder(1179, 150);
+inline constexpr QPoint redBorder(7, 100); // lit while it is that side's turn
+inline constexpr QPoint blueBorder(1192, 100);
 inline constexpr QRect messageLine(300, 730, 600, 60);
 
 inline const QColor courtGreen(42, 160, 96);

@@ -11,7 +11,7 @@ namespace vorbel {
 namespace {
 
 // Where a window of 1200 × 800 at the screen's corner shows what is looked at.
-constexpr QPoint blueSwitch(1128, 212); // the half of its track that the knob leaves free when it is on
+constexpr QPoint blueSwitch(1142, 69); // the half of its track that the knob leaves free when it is on
 
 constexpr QPoint barStart(412, 696); // inside the power bar's fill whenever the bar is shown
 constexpr QPoint barMiddle(570, 696);
