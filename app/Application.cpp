@@ -67,7 +67,10 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     chooseGraphics();
     WindowPlatform platform;
     NotificationCenter notifications;
-    ContentView view(platform.services(), platform.defaults);
+    const bool demonstrate = commandLine.action == CommandLine::Action::demonstrate;
+    MemoryDefaults guest = Demonstration::guestDefaults(platform.defaults);
+    UserDefaults& player = platform.defaults;
+    ContentView view(platform.services(), demonstrate ? guest : player);
     view.receiveNotifications(notifications);
     VorbelApp shell(*view.settings(), notifications);
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
@@ -88,7 +91,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     QObject::connect(&frame, &QtWindowFrame::screenChanged, &shell, &VorbelApp::followScreen);
     view.appear();
     std::optional<Demonstration> demonstration;
-    if (commandLine.action == CommandLine::Action::demonstrate) {
+    if (demonstrate) {
         demonstration.emplace(view, platform.queue, *window, commandLine.screenshotsFolder);
     }
     return application.exec();
