@@ -9,6 +9,7 @@
 #include "app/text/Fonts.h"
 #include "app/window/ContentView.h"
 #include "app/window/Display.h"
+#include "app/window/HeldKeys.h"
 #include "platform/audio/SdlAudio.h"
 #include "platform/runloop/QtMainQueue.h"
 #include "platform/store/SettingsDefaults.h"
@@ -76,6 +77,8 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
                      [&shell] { shell.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(platform.resources));
+    HeldKeys heldKeys;
+    application.installEventFilter(&heldKeys);
     QQmlApplicationEngine engine;
     engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)},
                                  {QStringLiteral("shell"), QVariant::fromValue(&shell)}});

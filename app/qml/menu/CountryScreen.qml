@@ -56,16 +56,16 @@ MenuBackdrop {
                     text: modelData
                     flag: screen.choices.flags[index]
                     selected: index === screen.choices.countryIndex
+                    focus: selected
                     Keys.forwardTo: [keys]
                     onClicked: screen.choices.countryIndex = country.index
                     onActiveFocusChanged: if (activeFocus)
-                        keys.show(country)
+                        keys.shown = country
                 }
             }
         }
     }
     MenuButton {
-        focus: true
         text: screen.menu.texts.play
         onClicked: screen.menu.chooseClass()
     }

@@ -37,7 +37,7 @@ MenuBackdrop {
         currentIndex: -1 // the list itself has the keyboard
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-        activeFocusOnTab: contentHeight > height
+        activeFocusOnTab: contentHeight > height || activeFocus
         Layout.preferredWidth: total.implicitWidth
         Layout.preferredHeight: Math.min(contentHeight, 320)
         Layout.alignment: Qt.AlignHCenter

@@ -2,6 +2,8 @@
 #include "app/shell/VorbelApp.h"
 #include "tests/unit/app/ViewFixture.h"
 
+#include <QKeySequence>
+
 namespace vorbel {
 
 namespace {
@@ -95,6 +97,20 @@ TEST(ShellLanguageTest, StartsWithTheStoredLanguageAndRussianWithoutOne) {
         ContentView view{platform.services(), defaults};
         const NotificationCenter notifications;
         EXPECT_EQ(VorbelApp(*view.settings(), notifications).language(), expected);
+    }
+}
+
+TEST_F(ShellMenuTest, TheKeysThatAreShownWorkAndAreTheOnesThatPeopleRead) {
+    EXPECT_EQ(shell.newGameKeysShown(), QStringLiteral("Ctrl+N"));
+    EXPECT_EQ(VorbelApp::newGameKeys(), QVariantList{QStringLiteral("Ctrl+N")});
+    EXPECT_EQ(shell.fullScreenKeysShown(), QStringLiteral("Ctrl+Meta+F, F11"));
+    QList<QKeySequence> working;
+    for (const QVariant& keys : VorbelApp::fullScreenKeys()) {
+        EXPECT_FALSE(working.contains(QKeySequence(keys.toString()))) << "twice";
+        working.append(QKeySequence(keys.toString()));
+    }
+    for (const QString& keys : shell.fullScreenKeysShown().split(QStringLiteral(", "))) {
+        EXPECT_TRUE(working.contains(QKeySequence(keys))) << qUtf8Printable(keys);
     }
 }
 
