@@ -75,6 +75,11 @@ void MenuChoices::setClassIndex(int index) {
     choose(allBocciaClasses, index,
            [this](BocciaClass sportClass) { settings_.setSelectedClass(sportClass); });
 }
+QStringList MenuChoices::classDescriptions() const {
+    return texts(allBocciaClasses, [this](BocciaClass sportClass) {
+        return text(descriptionKey(sportClass), settings_.selectedLanguage());
+    });
+}
 QString MenuChoices::classDescription() const {
     return text(descriptionKey(settings_.selectedClass()), settings_.selectedLanguage());
 }

@@ -26,6 +26,7 @@ class MenuChoices : public QObject {
 
     Q_PROPERTY(QStringList sportClasses READ sportClasses CONSTANT FINAL)
     Q_PROPERTY(int classIndex READ classIndex WRITE setClassIndex NOTIFY changed FINAL)
+    Q_PROPERTY(QStringList classDescriptions READ classDescriptions NOTIFY languageChanged FINAL)
     Q_PROPERTY(QString classDescription READ classDescription NOTIFY changed FINAL)
 
 public:
@@ -42,6 +43,7 @@ public:
 
     [[nodiscard]] QStringList sportClasses() const; // "BC1" … "BC4"
     [[nodiscard]] int classIndex() const;
+    [[nodiscard]] QStringList classDescriptions() const;
     [[nodiscard]] QString classDescription() const; // of the selected one
 
     // Places outside the list are ignored.

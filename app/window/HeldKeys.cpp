@@ -9,8 +9,8 @@ namespace vorbel {
 
 namespace {
 
-constexpr std::array keysThatMove{Qt::Key_Left,    Qt::Key_Right, Qt::Key_Up,     Qt::Key_Down,
-                                  Qt::Key_Tab,     Qt::Key_Backtab, Qt::Key_PageUp, Qt::Key_PageDown};
+constexpr std::array keysThatMove{Qt::Key_Left, Qt::Key_Right,   Qt::Key_Up,     Qt::Key_Down,
+                                  Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_PageUp, Qt::Key_PageDown};
 
 bool moves(const QKeyEvent& event) {
     return std::ranges::find(keysThatMove, event.key()) != keysThatMove.end();

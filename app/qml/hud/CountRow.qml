@@ -6,6 +6,7 @@ import Vorbel
 RowLayout {
     id: row
 
+    required property string side // whose count it is, for those who do not see where it stands
     required property string label
     required property int count
 
@@ -13,7 +14,7 @@ RowLayout {
     Layout.fillWidth: true
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: label + " " + count
+    Accessible.name: side + ", " + label + " " + count
     Accessible.ignored: !enabled // the display while the menu is open
 
     Text {

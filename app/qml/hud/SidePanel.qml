@@ -36,10 +36,12 @@ Panel {
             Layout.fillWidth: true
         }
         CountRow {
+            side: side.title
             label: side.scoreLabel
             count: side.score
         }
         CountRow {
+            side: side.title
             label: side.ballsLeftLabel
             count: side.ballsLeft
         }

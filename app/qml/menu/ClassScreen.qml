@@ -30,7 +30,8 @@ MenuBackdrop {
                 required property string modelData
 
                 text: modelData
-                selected: index === screen.choices.classIndex
+                selected: index === screen?.choices.classIndex // a closing screen goes first
+                Accessible.description: screen?.choices.classDescriptions[index] ?? ""
                 onClicked: screen.choices.classIndex = sportClass.index
             }
         }

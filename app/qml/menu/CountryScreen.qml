@@ -54,8 +54,8 @@ MenuBackdrop {
 
                     width: grid.cellWidth
                     text: modelData
-                    flag: screen.choices.flags[index]
-                    selected: index === screen.choices.countryIndex
+                    flag: screen?.choices.flags[index] ?? "" // a closing screen goes first
+                    selected: index === screen?.choices.countryIndex
                     focus: selected
                     Keys.forwardTo: [keys]
                     onClicked: screen.choices.countryIndex = country.index

@@ -57,10 +57,10 @@ MenuBackdrop {
             width: ends.width
             label: modelData
             labelColor: Theme.white(0.6)
-            red: screen.result.redPoints[index]
-            blue: screen.result.bluePoints[index]
-            redName: screen.result.redName
-            blueName: screen.result.blueName
+            red: screen?.result.redPoints[index] ?? 0 // a closing screen goes first
+            blue: screen?.result.bluePoints[index] ?? 0
+            redName: screen?.result.redName ?? ""
+            blueName: screen?.result.blueName ?? ""
         }
     }
     ResultRow {

@@ -234,6 +234,27 @@ TEST_F(ControlsTest, AssistiveTechnologyPressesButtonsChoicesAndSwitches) {
     EXPECT_EQ(view.settings()->selectedCountry(), Country::japan);
 }
 
+TEST_F(ControlsTest, EachClassSaysWhatItIs) {
+    game.open(MenuScreen::bcClass);
+    for (const BocciaClass sportClass : allBocciaClasses) {
+        QAccessibleInterface* seen = accessible(control(QString::fromUtf8(rawValue(sportClass))));
+        EXPECT_EQ(seen->text(QAccessible::Description), text(descriptionKey(sportClass), AppLanguage::en));
+    }
+}
+
+TEST_F(ControlsTest, TheCountsOfASideSayWhoseTheyAre) {
+    game.open(MenuScreen::hidden);
+    std::vector<QQuickItem*> rows;
+    collect(
+        *game.window().contentItem(), [](QQuickItem& item) { return isOfType(item, "CountRow"); }, rows);
+    QStringList names;
+    for (QQuickItem* row : rows) {
+        names.append(accessible(*row)->text(QAccessible::Name));
+    }
+    EXPECT_EQ(names, (QStringList{QStringLiteral("RED, Score: 0"), QStringLiteral("RED, Balls: 6"),
+                                  QStringLiteral("BLUE, Score: 0"), QStringLiteral("BLUE, Balls: 6")}));
+}
+
 TEST_F(ControlsTest, TheAboutScreenHasALinkToTheMakers) {
     game.open(MenuScreen::about);
     EXPECT_EQ(accessible(control(view.menu()->webSite()))->role(), QAccessible::Link);

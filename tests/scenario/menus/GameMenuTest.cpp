@@ -1,6 +1,7 @@
 // The game menu at the top of the window, and the keyboard while it is open and afterwards.
 #include "tests/scenario/menus/MenuWindow.h"
 
+#include <QKeySequence>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -17,8 +18,8 @@ protected:
     [[nodiscard]] bool isOpen() {
         std::vector<QQuickItem*> found;
         collect(
-            *game.window().contentItem(),
-            [](QQuickItem& item) { return isOfType(item, "CommandItem"); }, found);
+            *game.window().contentItem(), [](QQuickItem& item) { return isOfType(item, "CommandItem"); },
+            found);
         return !found.empty();
     }
 
@@ -26,7 +27,8 @@ protected:
         std::vector<QQuickItem*> rings;
         collect(
             control, [](QQuickItem& item) { return isOfType(item, "FocusRing"); }, rings);
-        return !rings.empty() || (isOfType(control, "ToggleSwitch") && control.property("visualFocus").toBool());
+        return !rings.empty() ||
+               (isOfType(control, "ToggleSwitch") && control.property("visualFocus").toBool());
     }
 
     // Opens it, lets it be closed, and looks whether the same control has the keyboard again, ring and all.
@@ -84,6 +86,17 @@ TEST_F(GameMenuTest, ACommandThatOpensAScreenLeavesTheKeyboardThere) {
     EXPECT_EQ(game.focusedText(), QStringLiteral("Back"));
     game.press(Qt::Key_Return);
     EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::main);
+}
+
+TEST_F(GameMenuTest, TheKeysThatAreShownWorkAndNoneIsThereTwice) {
+    QList<QKeySequence> working;
+    for (const QVariant& keys : VorbelApp::fullScreenKeys()) {
+        EXPECT_FALSE(working.contains(QKeySequence(keys.toString()))) << qUtf8Printable(keys.toString());
+        working.append(QKeySequence(keys.toString()));
+    }
+    for (const QString& keys : VorbelApp::fullScreenKeysShown().split(QStringLiteral(", "))) {
+        EXPECT_TRUE(working.contains(QKeySequence(keys))) << qUtf8Printable(keys);
+    }
 }
 
 } // namespace vorbel

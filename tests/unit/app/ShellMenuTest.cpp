@@ -2,8 +2,6 @@
 #include "app/shell/VorbelApp.h"
 #include "tests/unit/app/ViewFixture.h"
 
-#include <QKeySequence>
-
 namespace vorbel {
 
 namespace {
@@ -100,18 +98,10 @@ TEST(ShellLanguageTest, StartsWithTheStoredLanguageAndRussianWithoutOne) {
     }
 }
 
-TEST_F(ShellMenuTest, TheKeysThatAreShownWorkAndAreTheOnesThatPeopleRead) {
+TEST_F(ShellMenuTest, KeysAreShownAsPeopleReadThem) {
     EXPECT_EQ(shell.newGameKeysShown(), QStringLiteral("Ctrl+N"));
     EXPECT_EQ(VorbelApp::newGameKeys(), QVariantList{QStringLiteral("Ctrl+N")});
     EXPECT_EQ(shell.fullScreenKeysShown(), QStringLiteral("Ctrl+Meta+F, F11"));
-    QList<QKeySequence> working;
-    for (const QVariant& keys : VorbelApp::fullScreenKeys()) {
-        EXPECT_FALSE(working.contains(QKeySequence(keys.toString()))) << "twice";
-        working.append(QKeySequence(keys.toString()));
-    }
-    for (const QString& keys : shell.fullScreenKeysShown().split(QStringLiteral(", "))) {
-        EXPECT_TRUE(working.contains(QKeySequence(keys))) << qUtf8Printable(keys);
-    }
 }
 
 TEST_F(ShellMenuTest, WithoutAWindowFullScreenDoesNothing) {
