@@ -90,7 +90,8 @@ TEST_F(KeysTest, AHeldArrowTurnsTheAimOnAndOn) {
     desktop.hold(QStringLiteral("Left"));
     const bool goesOn = waitUntil([&] {
         const QImage seen = desktop.picture().copy(pointerArea);
-        return seen != oneStep && changes(seen, pointerArea) && changes(desktop.picture().copy(pointerArea), pointerArea);
+        return seen != oneStep && changes(seen, pointerArea) &&
+               changes(desktop.picture().copy(pointerArea), pointerArea);
     });
     desktop.letGo(QStringLiteral("Left"));
     EXPECT_TRUE(goesOn);
