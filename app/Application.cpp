@@ -9,6 +9,7 @@
 #include "app/text/Fonts.h"
 #include "app/window/ContentView.h"
 #include "app/window/Display.h"
+#include "app/window/HeldKeys.h"
 #include "app/window/PointSize.h"
 #include "platform/audio/SdlAudio.h"
 #include "platform/runloop/QtMainQueue.h"
@@ -69,13 +70,18 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     chooseGraphics();
     WindowPlatform platform;
     NotificationCenter notifications;
-    ContentView view(platform.services(), platform.defaults);
+    const bool demonstrate = commandLine.action == CommandLine::Action::demonstrate;
+    MemoryDefaults guest = Demonstration::guestDefaults(platform.defaults);
+    UserDefaults& player = platform.defaults;
+    ContentView view(platform.services(), demonstrate ? guest : player);
     view.receiveNotifications(notifications);
     setDefaultFont(view.settings()->selectedLanguage());
     VorbelApp shell(*view.settings(), notifications);
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
                      [&shell] { shell.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(platform.resources));
+    HeldKeys heldKeys;
+    application.installEventFilter(&heldKeys);
     QQmlApplicationEngine engine;
     const QSize smallest = smallestWindow(QGuiApplication::primaryScreen()->availableSize());
     engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)},
@@ -99,7 +105,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     });
     view.appear();
     std::optional<Demonstration> demonstration;
-    if (commandLine.action == CommandLine::Action::demonstrate) {
+    if (demonstrate) {
         demonstration.emplace(view, platform.queue, *window, commandLine.screenshotsFolder);
     }
     return application.exec();

@@ -44,6 +44,14 @@ Demonstration::Demonstration(ContentView& view, MainQueue& queue, QQuickWindow& 
     });
 }
 
+MemoryDefaults Demonstration::guestDefaults(const UserDefaults& player) {
+    MemoryDefaults guest;
+    if (const auto language = player.text(languageKey)) {
+        guest.setText(languageKey, *language);
+    }
+    return guest;
+}
+
 void Demonstration::follow() {
     GameLogic& match = view_.gameLogic();
     if (std::exchange(phase_, match.phase) != match.phase) {

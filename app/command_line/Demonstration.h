@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/window/ContentView.h"
+#include "platform/store/MemoryDefaults.h"
 
 #include <QObject>
 
@@ -19,6 +20,9 @@ class Demonstration final : public QObject {
 public:
     // An empty folder: no pictures are taken. It is made when it does not exist.
     Demonstration(ContentView& view, MainQueue& queue, QQuickWindow& window, std::filesystem::path pictures);
+
+    // What the computer plays with: in the player's language, and without the career, which is the player's own.
+    [[nodiscard]] static MemoryDefaults guestDefaults(const UserDefaults& player);
 
 private:
     void follow();

@@ -41,10 +41,10 @@ public:
     [[nodiscard]] QStringList flags() const;     // of the same countries, emoji
     [[nodiscard]] int countryIndex() const;
 
-    [[nodiscard]] QStringList sportClasses() const;      // "BC1" … "BC4"
-    [[nodiscard]] QStringList classDescriptions() const; // of the same classes
+    [[nodiscard]] QStringList sportClasses() const; // "BC1" … "BC4"
     [[nodiscard]] int classIndex() const;
-    [[nodiscard]] QString classDescription() const; // of the selected one
+    [[nodiscard]] QStringList classDescriptions() const; // of the same classes
+    [[nodiscard]] QString classDescription() const;      // of the selected one
 
     // Places outside the list are ignored.
     void setLanguageIndex(int index);

@@ -8,8 +8,6 @@ namespace vorbel {
 
 namespace {
 
-constexpr std::string_view languageKey = "boccia_language";
-
 AppLanguage storedLanguage(const UserDefaults& defaults) {
     const std::string code = defaults.text(languageKey).value_or("");
     return languageFromRawValue(code).value_or(defaultLanguage);

@@ -8,7 +8,11 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <string_view>
+
 namespace vorbel {
+
+inline constexpr std::string_view languageKey = "boccia_language"; // in the defaults
 
 // Each launch starts with the same settings, but for the language, which is kept in the defaults. A change
 // reaches the match a moment later, as a task of the main queue, so that the match never changes while the

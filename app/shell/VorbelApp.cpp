@@ -6,7 +6,7 @@
 #include "app/text/Texts.h"
 
 #include <QKeySequence>
-#include <QStringList>
+#include <QList>
 
 namespace vorbel {
 
@@ -38,15 +38,32 @@ bool VorbelApp::rightToLeft() const {
     return isRightToLeft(language_);
 }
 
-// Ours on every desktop, the desktop's own, and what most others use.
+QVariantList VorbelApp::newGameKeys() {
+    return {newGameKeysShown()};
+}
+
+// Ours on every desktop, what most others use, and the desktop's own.
 QVariantList VorbelApp::fullScreenKeys() {
-    QStringList keys{QStringLiteral("Meta+Ctrl+F")};
+    QList<QKeySequence> keys{QKeySequence(QStringLiteral("Ctrl+Meta+F")), QKeySequence(Qt::Key_F11)};
     for (const QKeySequence& key : QKeySequence::keyBindings(QKeySequence::FullScreen)) {
-        keys.append(key.toString());
+        if (!keys.contains(key)) {
+            keys.append(key);
+        }
     }
-    keys.append(QStringLiteral("F11"));
-    keys.removeDuplicates();
-    return {keys.cbegin(), keys.cend()};
+    QVariantList texts;
+    for (const QKeySequence& key : keys) {
+        texts.append(key.toString());
+    }
+    return texts;
+}
+
+QString VorbelApp::newGameKeysShown() {
+    return QStringLiteral("Ctrl+N");
+}
+
+// The toolkit would write Meta+Ctrl+F.
+QString VorbelApp::fullScreenKeysShown() {
+    return QStringLiteral("Ctrl+Meta+F, F11");
 }
 
 void VorbelApp::requestNewGame() {

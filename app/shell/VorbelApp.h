@@ -27,7 +27,10 @@ class VorbelApp final : public QObject {
     Q_PROPERTY(QString aboutTitle READ aboutTitle NOTIFY languageChanged FINAL)
     Q_PROPERTY(QString toggleFullScreenTitle READ toggleFullScreenTitle NOTIFY languageChanged FINAL)
     Q_PROPERTY(bool rightToLeft READ rightToLeft NOTIFY languageChanged FINAL)
+    Q_PROPERTY(QVariantList newGameKeys READ newGameKeys CONSTANT FINAL)
     Q_PROPERTY(QVariantList fullScreenKeys READ fullScreenKeys CONSTANT FINAL)
+    Q_PROPERTY(QString newGameKeysShown READ newGameKeysShown CONSTANT FINAL)
+    Q_PROPERTY(QString fullScreenKeysShown READ fullScreenKeysShown CONSTANT FINAL)
     Q_PROPERTY(bool inFullScreen READ inFullScreen NOTIFY inFullScreenChanged FINAL)
 
 public:
@@ -44,8 +47,12 @@ public:
     [[nodiscard]] QString aboutTitle() const;
     [[nodiscard]] QString toggleFullScreenTitle() const;
     [[nodiscard]] bool rightToLeft() const;
-    // The first is the one to show; none is given twice. Needs the application object.
+    // None is given twice. Needs the application object.
+    [[nodiscard]] static QVariantList newGameKeys();
     [[nodiscard]] static QVariantList fullScreenKeys();
+    // The keys that are the same on every desktop, as people read them: "Ctrl+N".
+    [[nodiscard]] static QString newGameKeysShown();
+    [[nodiscard]] static QString fullScreenKeysShown();
     [[nodiscard]] bool inFullScreen() const { return fullScreen_.isOn(); }
 
     Q_INVOKABLE void requestNewGame();

@@ -6,7 +6,7 @@ import Vorbel
 RowLayout {
     id: row
 
-    required property string side
+    required property string side // whose count it is, for those who do not see where it stands
     required property string label
     required property int count
 

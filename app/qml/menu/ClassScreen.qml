@@ -30,8 +30,8 @@ MenuBackdrop {
                 required property string modelData
 
                 text: modelData
-                selected: index === screen.choices.classIndex
-                Accessible.description: screen.choices.classDescriptions[sportClass.index]
+                selected: index === screen?.choices.classIndex // a closing screen goes first
+                Accessible.description: screen?.choices.classDescriptions[index] ?? ""
                 onClicked: screen.choices.classIndex = sportClass.index
             }
         }

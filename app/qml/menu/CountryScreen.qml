@@ -54,18 +54,18 @@ MenuBackdrop {
 
                     width: grid.cellWidth
                     text: modelData
-                    flag: screen.choices.flags[index]
-                    selected: index === screen.choices.countryIndex
+                    flag: screen?.choices.flags[index] ?? "" // a closing screen goes first
+                    selected: index === screen?.choices.countryIndex
+                    focus: selected
                     Keys.forwardTo: [keys]
                     onClicked: screen.choices.countryIndex = country.index
                     onActiveFocusChanged: if (activeFocus)
-                        keys.show(country)
+                        keys.shown = country
                 }
             }
         }
     }
     MenuButton {
-        focus: true
         text: screen.menu.texts.play
         onClicked: screen.menu.chooseClass()
     }

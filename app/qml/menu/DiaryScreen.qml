@@ -36,7 +36,7 @@ MenuBackdrop {
         clip: true
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
-        activeFocusOnTab: contentHeight > height
+        activeFocusOnTab: contentHeight > height || activeFocus
         Layout.preferredWidth: 480
         Layout.preferredHeight: Math.min(contentHeight, screen.availableHeight - 240)
         Layout.alignment: Qt.AlignHCenter

@@ -52,8 +52,8 @@ MenuBackdrop {
                 required property string modelData
 
                 text: modelData
-                font.family: screen.menu.choices.languageFonts[index]
-                selected: index === screen.menu.choices.languageIndex
+                font.family: screen?.menu.choices.languageFonts[index] ?? Theme.fontFamily // a closing screen goes first
+                selected: index === screen?.menu.choices.languageIndex
                 Layout.preferredWidth: 138
                 Layout.fillHeight: true
                 onClicked: screen.menu.choices.languageIndex = language.index

@@ -44,7 +44,7 @@ MenuBackdrop {
         currentIndex: -1 // the list itself has the keyboard
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-        activeFocusOnTab: contentHeight > height
+        activeFocusOnTab: contentHeight > height || activeFocus
         Layout.preferredWidth: total.implicitWidth
         Layout.preferredHeight: Math.min(contentHeight, 320)
         Layout.alignment: Qt.AlignHCenter
@@ -64,10 +64,10 @@ MenuBackdrop {
             width: ends.width
             label: modelData
             labelColor: Theme.white(0.6)
-            red: screen.result.redPoints[index]
-            blue: screen.result.bluePoints[index]
-            redName: screen.result.redName
-            blueName: screen.result.blueName
+            red: screen?.result.redPoints[index] ?? 0 // a closing screen goes first
+            blue: screen?.result.bluePoints[index] ?? 0
+            redName: screen?.result.redName ?? ""
+            blueName: screen?.result.blueName ?? ""
         }
     }
     ResultRow {

@@ -6,18 +6,33 @@ Item {
     id: keys
 
     required property Flickable target
+    property Item shown: null // belongs to the target's content; is whole in view whenever one of the two changes
 
     function scrollTo(y: real) {
         const last = target.originY + Math.max(target.contentHeight - target.height, 0);
         target.contentY = Math.min(Math.max(y, target.originY), last);
     }
-    // Moves as little as shows the item, which belongs to the target's content, whole.
-    function show(item: Item) {
-        const top = item.mapToItem(target.contentItem, 0, 0).y - Theme.ring;
-        const bottom = top + item.height + 2 * Theme.ring;
+    // Moves as little as shows the item whole.
+    function show() {
+        if (shown === null)
+            return;
+        const top = shown.mapToItem(target.contentItem, 0, 0).y - Theme.ring;
+        const bottom = top + shown.height + 2 * Theme.ring;
         scrollTo(Math.min(Math.max(target.contentY, bottom - target.height), top));
     }
 
+    onShownChanged: show()
+
+    Connections {
+        target: keys.target
+
+        function onHeightChanged() {
+            keys.show();
+        }
+        function onContentHeightChanged() {
+            keys.show();
+        }
+    }
     Keys.onPressed: event => {
         const page = target.height - 2 * Theme.padding;
         const goals = new Map([

@@ -15,7 +15,7 @@ Flickable {
     contentHeight: label.implicitHeight
     clip: true
     boundsBehavior: Flickable.StopAtBounds
-    activeFocusOnTab: contentHeight > height
+    activeFocusOnTab: contentHeight > height || activeFocus // must not end while it has the focus
 
     T.ScrollBar.vertical: SlimScrollBar {}
     Keys.forwardTo: [keys]

@@ -15,8 +15,6 @@ T.Menu {
         return width;
     }
 
-    signal leftWithEscape()
-
     // With the first item chosen, as a menu opened without the mouse should be.
     function openFromKeyboard() {
         open();
@@ -39,13 +37,10 @@ T.Menu {
         LayoutMirroring.childrenInherit: true
 
         Shortcut {
-            sequence: "Escape"
+            sequences: ["Escape", "F10"]
             enabled: control.visible
             autoRepeat: false
-            onActivated: {
-                control.close();
-                control.leftWithEscape();
-            }
+            onActivated: control.close()
         }
     }
     background: Rectangle {

@@ -9,6 +9,8 @@ Item {
 
     required property VorbelApp shell
 
+    signal closed() // the menu: the keyboard is free again
+
     readonly property bool revealed: !shell.inFullScreen || hover.hovered || gameMenu.visible
     readonly property real coveredHeight: bar.y + bar.height // of the window
 
@@ -53,11 +55,11 @@ Item {
             title: edge.shell.gameMenuTitle
             font.family: Theme.fontFamily
             mirroredLayout: edge.shell.rightToLeft
-            onLeftWithEscape: edge.shell.toggleFullScreenEmulation(true)
+            onClosed: edge.closed()
 
             CommandItem {
                 text: edge.shell.startGameTitle
-                keys: newGameKey.nativeText
+                keys: edge.shell.newGameKeysShown
                 onTriggered: edge.shell.requestNewGame()
             }
             Divider {}
@@ -72,21 +74,20 @@ Item {
             Divider {}
             CommandItem {
                 text: edge.shell.toggleFullScreenTitle
-                keys: edge.shell.fullScreenKeys[0]
+                keys: edge.shell.fullScreenKeysShown
                 onTriggered: edge.shell.toggleFullScreenEmulation(false)
             }
         }
     }
 
-    Shortcut {
-        id: newGameKey
-        sequence: "Ctrl+N"
-        autoRepeat: false
+    AnyLayoutShortcut {
+        sequences: edge.shell.newGameKeys
+        enabled: !gameMenu.visible
         onActivated: edge.shell.requestNewGame()
     }
-    Shortcut {
+    AnyLayoutShortcut {
         sequences: edge.shell.fullScreenKeys
-        autoRepeat: false
+        enabled: !gameMenu.visible
         onActivated: edge.shell.toggleFullScreenEmulation(false)
     }
     Shortcut {

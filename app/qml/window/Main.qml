@@ -44,21 +44,28 @@ Window {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
         }
-        Hud {
+        // Remembers which of its controls has the keyboard while the game menu has it.
+        FocusScope {
+            id: game
             anchors { fill: parent; topMargin: gameMenu.coveredHeight }
-            enabled: !window.view.menu.open
-            opacity: enabled ? 1 : 1 - 0.6 * menu.opacity // its bright message must not shine through the menu
-            view: window.view
-        }
-        Menu {
-            id: menu
-            anchors { fill: parent; topMargin: gameMenu.coveredHeight }
-            menu: window.view.menu
+
+            Hud {
+                anchors.fill: parent
+                enabled: !window.view.menu.open
+                opacity: enabled ? 1 : 1 - 0.6 * menu.opacity // its bright message must not shine through the menu
+                view: window.view
+            }
+            Menu {
+                id: menu
+                anchors.fill: parent
+                menu: window.view.menu
+            }
         }
         GameMenuBar {
             id: gameMenu
             width: parent.width
             shell: window.shell
+            onClosed: game.forceActiveFocus(Qt.TabFocusReason) // so that its ring is shown again
         }
     }
     GameKeys {

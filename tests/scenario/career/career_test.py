@@ -109,7 +109,8 @@ class CareerTest(unittest.TestCase):
         game = self.game
         self.choose(EN["menu.tournament"])
         self.is_checked("radio button", EN["country.japan"])
-        self.go_on(EN["menu.sportClass"])
+        self.choose(EN["menu.play"])
+        game.find("heading", EN["menu.sportClass"])
         self.is_checked("radio button", "BC2")
         game.key("Return")
         self.assertTrue(self.shows_round(1))

@@ -1,6 +1,8 @@
 // The menu by keyboard alone, by mouse, and by assistive technology.
 #include "tests/scenario/menus/MenuWindow.h"
 
+#include "app/text/Texts.h"
+
 #include <QAccessible>
 #include <QFileInfo>
 #include <QSet>
@@ -47,6 +49,12 @@ protected:
         QTest::mouseClick(&game.window(), Qt::LeftButton, {}, inScene(control(text)).center().toPoint());
         game.settle();
     }
+    QRectF countryGrid() {
+        std::vector<QQuickItem*> found;
+        collect(
+            game.menu(), [](QQuickItem& item) { return isOfType(item, "QQuickFlickable"); }, found);
+        return inScene(*found.at(0));
+    }
     void tabTo(const QString& text) {
         for (int i = 0; i < 60 && game.focusedText() != text; ++i) {
             game.press(Qt::Key_Tab);
@@ -81,6 +89,7 @@ TEST_F(ControlsTest, ReturnPressesWhatHasTheFocus) {
     EXPECT_EQ(game.focusedText(), QStringLiteral("Start Game"));
     game.press(Qt::Key_Return);
     EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::country);
+    EXPECT_EQ(game.focusedText(), QStringLiteral("France"));
     tabTo(QStringLiteral("Peru"));
     game.press(Qt::Key_Return);
     EXPECT_EQ(view.settings()->selectedCountry(), Country::peru);
@@ -134,19 +143,24 @@ TEST_F(ControlsTest, OnceTheMenuIsHiddenTheKeysPlay) {
     EXPECT_DOUBLE_EQ(match.aimAngle, 0.05);
 }
 
+TEST_F(ControlsTest, TheCountryScreenOpensWithTheChosenCountryInViewAndFocused) {
+    for (const Country country : {Country::france, Country::belgium, Country::japan, Country::russia}) {
+        view.settings()->setSelectedCountry(country);
+        game.open(MenuScreen::main);
+        game.open(MenuScreen::country);
+        game.layOut();
+        EXPECT_EQ(game.focusedText(), text(key(country), AppLanguage::en));
+        EXPECT_TRUE(countryGrid().contains(inScene(*game.focus()))) << qUtf8Printable(game.focusedText());
+    }
+}
+
 TEST_F(ControlsTest, TheCountryGridScrollsToTheFocus) {
     game.open(MenuScreen::country);
     game.layOut();
-    const QRectF grid = [this] {
-        std::vector<QQuickItem*> found;
-        collect(
-            game.menu(), [](QQuickItem& item) { return isOfType(item, "QQuickFlickable"); }, found);
-        return inScene(*found.at(0));
-    }();
     for (int i = 0; i < 40; ++i) {
         game.press(Qt::Key_Backtab);
         if (isOfType(*game.focus(), "CountryButton")) {
-            EXPECT_TRUE(grid.contains(inScene(*game.focus()))) << qUtf8Printable(game.focusedText());
+            EXPECT_TRUE(countryGrid().contains(inScene(*game.focus()))) << qUtf8Printable(game.focusedText());
         }
     }
 }

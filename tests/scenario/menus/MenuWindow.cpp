@@ -30,6 +30,7 @@ QRectF inScene(const QQuickItem& item) {
 }
 
 MenuWindow::MenuWindow(const Resources& resources) : view_(withResources(platform_, resources), defaults_) {
+    view_.receiveNotifications(notifications_);
     engine_.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view_)},
                                   {QStringLiteral("shell"), QVariant::fromValue(&shell_)}});
     QObject::connect(&engine_, &QQmlEngine::warnings, &view_, [this](const QList<QQmlError>& warnings) {

@@ -38,6 +38,14 @@ void Desktop::press(const QString& key) const {
     runTool({QStringLiteral("key"), key});
 }
 
+void Desktop::hold(const QString& key) const {
+    runTool({QStringLiteral("keydown"), key});
+}
+
+void Desktop::letGo(const QString& key) const {
+    runTool({QStringLiteral("keyup"), key});
+}
+
 bool Desktop::pressUntilChanged(const QString& key, const QRect& part) const {
     const QImage before = picture().copy(part);
     press(key);
@@ -55,9 +63,13 @@ bool Desktop::focusGame() const {
 }
 
 void Desktop::startMatch() const {
-    for (int screen = 0; screen < 3; ++screen) {
-        press(QStringLiteral("Return"));
+    press(QStringLiteral("Return"));
+    for (int back = 0; back < 5;
+         ++back) { // from France over three countries to the two buttons behind the last
+        press(QStringLiteral("shift+Tab"));
     }
+    press(QStringLiteral("Return"));
+    press(QStringLiteral("Return"));
 }
 
 bool alike(const QColor& a, const QColor& b) {

@@ -35,7 +35,10 @@ public:
     // "Left", "Tab"), in the window that has the focus.
     void press(const QString& key) const;
 
-    // The same, and waits until that part of the picture is another than before.
+    void hold(const QString& key) const; // presses it, for the time being
+    void letGo(const QString& key) const;
+
+    // The same as to press it, and waits until that part of the picture is another than before.
     [[nodiscard]] bool pressUntilChanged(const QString& key, const QRect& part) const;
 
     // Waits for the game's window and gives it the keyboard. False when none appears.

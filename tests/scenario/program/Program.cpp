@@ -2,6 +2,9 @@
 
 #include "platform/store/SettingsDefaults.h"
 
+#include <QFile>
+#include <QRegularExpression>
+
 namespace vorbel {
 
 Program::Program(const QStringList& arguments, const Environment& environment) {
@@ -31,6 +34,15 @@ std::optional<int> Program::status(int milliseconds) {
         return std::nullopt;
     }
     return process_.exitStatus() == QProcess::NormalExit ? std::optional(process_.exitCode()) : std::nullopt;
+}
+
+int Program::residentMegabytes() const {
+    QFile status(QStringLiteral("/proc/%1/status").arg(process_.processId()));
+    if (!status.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    const QRegularExpression resident(QStringLiteral("VmRSS:\\s*(\\d+) kB"));
+    return resident.match(QString::fromUtf8(status.readAll())).captured(1).toInt() / 1024;
 }
 
 QString Program::output() {

@@ -23,6 +23,8 @@ public:
 
     [[nodiscard]] bool isRunning() const { return process_.state() == QProcess::Running; }
 
+    [[nodiscard]] int residentMegabytes() const; // 0 once it has ended
+
     // Waits for its end: the exit status, none when it takes longer or crashed.
     [[nodiscard]] std::optional<int> status(int milliseconds = 20'000);
 

@@ -2,6 +2,8 @@
 #include "tests/scenario/program/Desktop.h"
 #include "tests/scenario/program/Program.h"
 
+#include "platform/store/SettingsDefaults.h"
+
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -103,6 +105,24 @@ TEST(StartTest, WithoutOpenGlItSaysSoInOneLineAndTheMatchGoesOn) {
         EXPECT_TRUE(game.isRunning());
         EXPECT_EQ(lines(game.errors()), 1) << qUtf8Printable(game.errors());
     }
+}
+
+TEST(StartTest, TheDemonstrationLeavesThePlayersCareerAlone) {
+    const QTemporaryDir settings;
+    SettingsDefaults stored(settings.filePath(QStringLiteral("vorbel")).toStdString());
+    stored.setText("boccia_language", "el");
+    stored.setInteger("boccia_gamesPlayed", 7);
+    stored.setBoolean("boccia_isRealAthlete", true);
+    const auto files = [&settings] {
+        return QDir(settings.filePath(QStringLiteral("vorbel"))).entryList(QDir::Files | QDir::Hidden);
+    };
+    const QStringList before = files();
+    Program program({QStringLiteral("--demo")}, {{QStringLiteral("VORBEL_SPEED"), QStringLiteral("25")},
+                                                 {QStringLiteral("XDG_CONFIG_HOME"), settings.path()}});
+    EXPECT_EQ(program.status(120'000), 0) << qUtf8Printable(program.errors());
+    EXPECT_EQ(stored.integer("boccia_gamesPlayed"), 7);
+    EXPECT_EQ(stored.text("boccia_language"), "el");
+    EXPECT_EQ(files(), before) << "neither experience nor a diary";
 }
 
 TEST(StartTest, TheDemonstrationPlaysAMatchAndLeavesPicturesOfItsStages) {

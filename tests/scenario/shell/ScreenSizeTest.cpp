@@ -21,7 +21,10 @@ QRect wholeScreen() {
 }
 
 QColor seenAt(QPoint place) {
-    return QGuiApplication::primaryScreen()->grabWindow(0, place.x(), place.y(), 1, 1).toImage().pixelColor(0, 0);
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, place.x(), place.y(), 1, 1)
+        .toImage()
+        .pixelColor(0, 0);
 }
 
 } // namespace
@@ -32,8 +35,8 @@ protected:
     void SetUp() override {
         ASSERT_TRUE(windowManager.isReady());
         movePointer({2559, 1599}); // out of the way
-        game.emplace(QStringList(), Program::Environment{
-                                        {QStringLiteral("QT_SCALE_FACTOR"), QString::fromLatin1(GetParam())}});
+        game.emplace(QStringList(), Program::Environment{{QStringLiteral("QT_SCALE_FACTOR"),
+                                                          QString::fromLatin1(GetParam())}});
         window = GameWindow::find();
         ASSERT_TRUE(window) << qUtf8Printable(game->errors());
         ASSERT_TRUE(waitUntil([this] { return decorated().isValid(); }));

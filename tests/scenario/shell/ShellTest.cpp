@@ -132,6 +132,9 @@ TEST_P(ShellTest, EscapeLeavesFullScreenInEveryStateAndDoesNothingWithoutIt) {
         if (menuOpen) {
             press("F10");
             ASSERT_TRUE(waitUntil([] { return seenAt(inGameMenu) == menuColor; }));
+            press("Escape"); // closes the game menu alone
+            ASSERT_TRUE(waitUntil([] { return seenAt(inGameMenu) != menuColor; }));
+            EXPECT_TRUE(coversScreen());
         }
         press("Escape");
         EXPECT_TRUE(isAsBefore()) << menuOpen;

@@ -98,6 +98,12 @@ TEST(ShellLanguageTest, StartsWithTheStoredLanguageAndRussianWithoutOne) {
     }
 }
 
+TEST_F(ShellMenuTest, KeysAreShownAsPeopleReadThem) {
+    EXPECT_EQ(shell.newGameKeysShown(), QStringLiteral("Ctrl+N"));
+    EXPECT_EQ(VorbelApp::newGameKeys(), QVariantList{QStringLiteral("Ctrl+N")});
+    EXPECT_EQ(shell.fullScreenKeysShown(), QStringLiteral("Ctrl+Meta+F, F11"));
+}
+
 TEST_F(ShellMenuTest, WithoutAWindowFullScreenDoesNothing) {
     shell.toggleFullScreenEmulation(false);
     shell.followScreen();
