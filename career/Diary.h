@@ -16,9 +16,20 @@ struct DiaryEntry {
     bool operator==(const DiaryEntry&) const = default;
 };
 
+struct ReadDiary {
+    std::vector<DiaryEntry> entries;
+    bool damaged = false; // there may have been more entries
+};
+
 // The stored form is a JSON array, newest entry first; dates count seconds since the start of 2001, UTC.
-// A blob that is not of that form reads as an empty diary; members of an entry that are unknown are ignored.
-[[nodiscard]] std::vector<DiaryEntry> decodeDiary(std::string_view json);
+// Members of an entry that are unknown are ignored. A blob that is not wholly of that form, the empty one too,
+// is damaged.
 [[nodiscard]] std::string encodeDiary(const std::vector<DiaryEntry>& entries);
+
+// The entries that can be read, also from a damaged diary: those before its cut end, those beside a bad one.
+[[nodiscard]] ReadDiary readDiary(std::string_view json);
+
+// The entries of a diary that is not damaged. A damaged one counts as empty.
+[[nodiscard]] std::vector<DiaryEntry> decodeDiary(std::string_view json);
 
 } // namespace vorbel

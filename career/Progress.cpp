@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace vorbel {
 
@@ -33,7 +34,12 @@ TextKey rankKey(int gamesPlayed) {
 
 std::optional<int> gamesToNextRank(int gamesPlayed) {
     const Rank* next = nextRank(gamesPlayed);
-    return next == ladder.end() ? std::nullopt : std::optional(next->gamesPlayed - gamesPlayed);
+    if (next == ladder.end()) {
+        return std::nullopt;
+    }
+    const int atLeast =
+        next->gamesPlayed - std::numeric_limits<int>::max(); // whose distance can still be told
+    return next->gamesPlayed - std::max(gamesPlayed, atLeast);
 }
 
 } // namespace vorbel

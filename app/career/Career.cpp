@@ -3,7 +3,10 @@
 #include "career/Diary.h"
 #include "platform/random/Uuid.h"
 
+#include <algorithm>
 #include <chrono>
+#include <cstdint>
+#include <limits>
 
 namespace vorbel {
 
@@ -19,6 +22,12 @@ DiaryEntry entryOf(int redScore, int blueScore, RandomSource& random) {
     const bool won = redScore > blueScore;
     const std::string resultKey = won ? "diary.win" : redScore < blueScore ? "diary.loss" : "diary.draw";
     return {randomUuid(random), std::chrono::system_clock::now(), resultKey, won ? 1 : 0};
+}
+
+// The largest number there is where the sum is larger.
+int saturatedSum(int count, int more) {
+    const std::int64_t sum = std::int64_t{count} + more;
+    return static_cast<int>(std::min<std::int64_t>(sum, std::numeric_limits<int>::max()));
 }
 
 } // namespace
@@ -44,19 +53,29 @@ void Career::setRealAthlete(bool is) {
 }
 
 void Career::addMatch(int redScore, int blueScore) {
-    defaults_.setInteger(gamesPlayedKey, gamesPlayed() + 1);
-    if (isRealAthlete()) {
-        const DiaryEntry entry = entryOf(redScore, blueScore, random_);
-        defaults_.setInteger(athleteXPKey, athleteXP() + entry.xpGained);
-        appendDiaryEntry(entry);
-    }
+    defaults_.atomically([this, redScore, blueScore] {
+        defaults_.setInteger(gamesPlayedKey, saturatedSum(gamesPlayed(), 1));
+        if (isRealAthlete()) {
+            const DiaryEntry entry = entryOf(redScore, blueScore, random_);
+            defaults_.setInteger(athleteXPKey, saturatedSum(athleteXP(), entry.xpGained));
+            appendDiaryEntry(entry);
+        }
+    });
     emit changed();
 }
 
+// A damaged diary makes room for a new one, which begins with this entry.
 void Career::appendDiaryEntry(const DiaryEntry& entry) {
-    std::vector<DiaryEntry> entries = decodeDiary(diaryData());
-    entries.insert(entries.begin(), entry);
-    defaults_.setBytes(diaryDataKey, encodeDiary(entries));
+    const std::string stored = diaryData();
+    ReadDiary diary = readDiary(stored);
+    if (diary.damaged) {
+        diary.entries.clear();
+        if (!stored.empty()) {
+            defaults_.setAside(diaryDataKey);
+        }
+    }
+    diary.entries.insert(diary.entries.begin(), entry);
+    defaults_.setBytes(diaryDataKey, encodeDiary(diary.entries));
 }
 
 } // namespace vorbel

@@ -27,7 +27,8 @@ public:
 
     void setRealAthlete(bool is);
 
-    // A match has ended with these scores. It counts always; experience and diary are an athlete's.
+    // A match has ended with these scores. It counts always; experience and diary are an athlete's. Games that
+    // run at once add up; counts stop at the largest number. A diary that is damaged is set aside.
     void addMatch(int redScore, int blueScore);
 
 signals:

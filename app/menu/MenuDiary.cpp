@@ -42,7 +42,7 @@ void MenuDiary::read(std::string json) {
         return;
     }
     beginResetModel();
-    entries_ = decodeDiary(json);
+    entries_ = readDiary(json).entries;
     json_ = std::move(json);
     endResetModel();
     emit readAgain();

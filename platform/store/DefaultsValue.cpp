@@ -6,17 +6,22 @@ namespace vorbel {
 
 namespace {
 
-constexpr std::string_view integerTag = "integer\n";
-constexpr std::string_view booleanTag = "boolean\n";
-constexpr std::string_view textTag = "text\n";
-constexpr std::string_view bytesTag = "bytes\n";
-
 struct Encoder {
-    std::string operator()(int value) const { return std::string(integerTag) + std::to_string(value); }
-    std::string operator()(bool value) const { return std::string(booleanTag) + (value ? "true" : "false"); }
-    std::string operator()(const std::string& value) const { return std::string(textTag) + value; }
-    std::string operator()(const Bytes& value) const { return std::string(bytesTag) + value.data; }
+    std::string operator()(int value) const { return "integer\n" + std::to_string(value); }
+    std::string operator()(bool value) const { return std::string("boolean\n") + (value ? "true" : "false"); }
+    std::string operator()(const std::string& value) const {
+        return "text\n" + value + (value.ends_with('\n') ? "\n" : "");
+    }
+    std::string operator()(const Bytes& value) const { return "bytes\n" + value.data; }
 };
+
+// Without the line break at its end, if there is one.
+std::string_view chomped(std::string_view line) {
+    if (line.ends_with('\n')) {
+        line.remove_suffix(line.ends_with("\r\n") ? 2 : 1);
+    }
+    return line;
+}
 
 std::optional<DefaultsValue> decodedInteger(std::string_view digits) {
     int value = 0;
@@ -42,18 +47,18 @@ std::string encoded(const DefaultsValue& value) {
 
 std::optional<DefaultsValue> decoded(std::string_view content) {
     const std::size_t tagEnd = content.find('\n') + 1; // 0 when there is no line end
-    const std::string_view tag = content.substr(0, tagEnd);
+    const std::string_view tag = chomped(content.substr(0, tagEnd));
     const std::string_view rest = content.substr(tagEnd);
-    if (tag == integerTag) {
-        return decodedInteger(rest);
+    if (tag == "integer") {
+        return decodedInteger(chomped(rest));
     }
-    if (tag == booleanTag) {
-        return decodedBoolean(rest);
+    if (tag == "boolean") {
+        return decodedBoolean(chomped(rest));
     }
-    if (tag == textTag) {
-        return std::string(rest);
+    if (tag == "text") {
+        return std::string(chomped(rest));
     }
-    if (tag == bytesTag) {
+    if (tag == "bytes") {
         return Bytes{std::string(rest)};
     }
     return std::nullopt;

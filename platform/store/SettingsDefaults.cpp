@@ -1,11 +1,14 @@
 #include "platform/store/SettingsDefaults.h"
 
-#include <QFile>
-#include <QSaveFile>
+#include "platform/store/ValueFile.h"
+
+#include <QDeadlineTimer>
+#include <QLockFile>
 #include <QStandardPaths>
 #include <QUrl>
 
 #include <system_error>
+#include <vector>
 
 namespace vorbel {
 
@@ -13,43 +16,82 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::optional<DefaultsValue> valueIn(const fs::path& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
-    }
-    const QByteArray content = file.readAll();
-    return decoded({content.constData(), static_cast<std::size_t>(content.size())});
-}
+using namespace std::chrono_literals;
 
-void setDamagedAside(const fs::path& path) {
-    std::error_code ignored; // then it is replaced
-    if (fs::exists(path, ignored) && !valueIn(path)) {
-        fs::rename(path, fs::path(path) += ".damaged", ignored);
+constexpr auto longestWait = 5s;
+
+// The toolkit's own wait doubles its pauses, and so would starve beside a game that writes often.
+void waitFor(QLockFile& lock) {
+    constexpr int pause = 5; // ms
+    const QDeadlineTimer deadline(longestWait);
+    while (!lock.tryLock(pause) && lock.error() == QLockFile::LockFailedError && !deadline.hasExpired()) {
     }
 }
 
-// Replaces the file whole, once its new content is safely on the disk. The flush is needed for its result:
-// commit() does not notice when what was still buffered finds no space.
-bool isReplaced(const fs::path& path, const DefaultsValue& value) {
-    const std::string content = encoded(value);
-    const auto size = static_cast<qint64>(content.size());
-    QSaveFile file(QString::fromStdString(path.string()));
-    return file.open(QIODevice::WriteOnly) && file.write(content.data(), size) == size && file.flush() &&
-           file.commit();
+// The toolkit would read what stands in the lock's place, and so wait for a pipe for ever.
+bool canBeLock(const fs::path& file) {
+    std::error_code error;
+    const fs::file_status status = fs::symlink_status(file, error);
+    return !fs::exists(status) || fs::is_regular_file(status);
+}
+
+// True while it lives.
+class Raised {
+public:
+    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+    ~Raised() { flag_ = false; }
+
+private:
+    bool& flag_;
+};
+
+std::vector<fs::path> unfinishedIn(const fs::path& folder) {
+    std::vector<fs::path> found;
+    std::error_code error; // then there is nothing to find
+    for (fs::directory_iterator file(folder, error), end; !error && file != end; file.increment(error)) {
+        if (isUnfinished(*file)) {
+            found.push_back(*file);
+        }
+    }
+    return found;
 }
 
 } // namespace
 
-SettingsDefaults::SettingsDefaults(fs::path folder) : folder_(std::move(folder)) {}
+SettingsDefaults::SettingsDefaults(fs::path folder) : folder_(std::move(folder)) {
+    removeUnfinished();
+}
 
 SettingsDefaults::~SettingsDefaults() {
-    writePending();
+    if (!pending_.empty()) {
+        SettingsDefaults::atomically([this] { writePending(); });
+    }
 }
 
 fs::path SettingsDefaults::userFolder() {
     const QString settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     return fs::path(settings.toStdString()) / "vorbel";
+}
+
+void SettingsDefaults::atomically(const std::function<void()>& change) {
+    if (locked_) {
+        return change();
+    }
+    std::error_code ignored; // the files will not be written either
+    fs::create_directories(folder_, ignored);
+    const fs::path file = folder_ / ".lock";               // no key's: a dot in a key is written as %2E
+    QLockFile lock(QString::fromStdString(file.string())); // unlocks itself
+    if (canBeLock(file)) {
+        waitFor(lock);
+    }
+    const Raised raised(locked_);
+    change();
+}
+
+void SettingsDefaults::setAside(std::string_view key) {
+    atomically([this, key] { isSetAside(fileOf(key)); });
 }
 
 std::optional<DefaultsValue> SettingsDefaults::value(std::string_view key) const {
@@ -59,7 +101,7 @@ std::optional<DefaultsValue> SettingsDefaults::value(std::string_view key) const
 
 void SettingsDefaults::setValue(std::string_view key, DefaultsValue value) {
     pending_.insert_or_assign(std::string(key), std::move(value));
-    writePending();
+    atomically([this] { writePending(); });
 }
 
 // Keys may hold any character, file names may not: a dot or slash becomes %2E or %2F.
@@ -68,17 +110,22 @@ fs::path SettingsDefaults::fileOf(std::string_view key) const {
     return folder_ / QUrl::toPercentEncoding(name, {}, ".").toStdString();
 }
 
-void SettingsDefaults::writePending() {
-    if (pending_.empty()) {
+// Only under the lock: whoever is writing holds it, and needs what he has not finished.
+void SettingsDefaults::removeUnfinished() {
+    if (unfinishedIn(folder_).empty()) {
         return;
     }
-    std::error_code ignored; // the files will not be written either
-    fs::create_directories(folder_, ignored);
-    std::erase_if(pending_, [this](const auto& entry) {
-        const fs::path file = fileOf(entry.first);
-        setDamagedAside(file);
-        return isReplaced(file, entry.second);
+    SettingsDefaults::atomically([this] {
+        for (const fs::path& file : unfinishedIn(folder_)) {
+            std::error_code ignored; // it does no harm
+            fs::remove(file, ignored);
+        }
     });
+}
+
+void SettingsDefaults::writePending() {
+    std::erase_if(pending_,
+                  [this](const auto& entry) { return isReplaced(fileOf(entry.first), entry.second); });
 }
 
 } // namespace vorbel

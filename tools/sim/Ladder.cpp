@@ -3,9 +3,12 @@
 #include "tools/sim/MatchPlayer.h"
 #include "tools/sim/Trace.h"
 
+#include <algorithm>
 #include <atomic>
+#include <functional>
 #include <iomanip>
 #include <ostream>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -13,22 +16,39 @@ namespace vorbel::sim {
 
 namespace {
 
-constexpr int levels = static_cast<int>(allDifficulties.size());
+constexpr std::size_t levels = allDifficulties.size();
+constexpr std::size_t cells = levels * levels;
+constexpr unsigned mostJobs = 256;
 
 constexpr std::size_t place(AIDifficulty level) {
     return static_cast<std::size_t>(level);
 }
 
+// On this thread, and on helpers as far as the system gives them.
+void playTogether(const std::function<void()>& playMatches, unsigned jobs) {
+    std::vector<std::jthread> helpers;
+    try {
+        for (unsigned i = 1; i < std::min(jobs, mostJobs); ++i) {
+            helpers.emplace_back(playMatches);
+        }
+    } catch (const std::system_error&) { // no more threads
+    }
+    playMatches();
+}
+
 } // namespace
 
+std::int64_t matchesOf(const LadderSettings& settings) {
+    return std::int64_t{cells} * settings.matchesPerCell;
+}
+
 WinTable playLadder(const LadderSettings& settings) {
-    const int perCell = settings.matchesPerPair / 2;
-    const int total = levels * levels * perCell;
-    std::array<std::atomic<int>, allDifficulties.size() * allDifficulties.size()> wins{};
-    std::atomic<int> next = 0;
+    const std::int64_t total = matchesOf(settings);
+    std::array<std::atomic<int>, cells> wins{};
+    std::atomic<std::int64_t> next = 0;
     const auto playMatches = [&] {
-        for (int i = next++; i < total; i = next++) {
-            const auto cell = static_cast<std::size_t>(i / perCell);
+        for (std::int64_t i = next++; i < total; i = next++) {
+            const auto cell = static_cast<std::size_t>(i / settings.matchesPerCell);
             MatchPlayer match({.seed = settings.firstSeed + static_cast<std::uint64_t>(i),
                                .red = allDifficulties[cell / levels],
                                .blue = allDifficulties[cell % levels]});
@@ -36,13 +56,7 @@ WinTable playLadder(const LadderSettings& settings) {
             wins[cell] += match.game().redScore > match.game().blueScore ? 1 : 0;
         }
     };
-    {
-        std::vector<std::jthread> helpers;
-        for (unsigned i = 1; i < settings.jobs; ++i) {
-            helpers.emplace_back(playMatches);
-        }
-        playMatches();
-    }
+    playTogether(playMatches, settings.jobs);
     WinTable table{};
     for (std::size_t cell = 0; cell < wins.size(); ++cell) {
         table[cell / levels][cell % levels] = wins[cell];
@@ -53,7 +67,7 @@ WinTable playLadder(const LadderSettings& settings) {
 double winRate(const WinTable& wins, int matchesPerCell, AIDifficulty level, AIDifficulty against) {
     const int asRed = wins[place(level)][place(against)];
     const int asBlue = matchesPerCell - wins[place(against)][place(level)];
-    return static_cast<double>(asRed + asBlue) / (2.0 * matchesPerCell);
+    return (static_cast<double>(asRed) + asBlue) / (2.0 * matchesPerCell);
 }
 
 void writeLadder(std::ostream& out, const WinTable& wins, int matchesPerCell) {
@@ -75,7 +89,7 @@ void writeLadder(std::ostream& out, const WinTable& wins, int matchesPerCell) {
     for (std::size_t i = allDifficulties.size() - 1; i > 0; --i) {
         out << levelName(allDifficulties[i]) << " beats " << levelName(allDifficulties[i - 1]) << " in "
             << percent * winRate(wins, matchesPerCell, allDifficulties[i], allDifficulties[i - 1]) << " % of "
-            << 2 * matchesPerCell << '\n';
+            << std::int64_t{2} * matchesPerCell << '\n';
     }
 }
 

@@ -13,10 +13,13 @@ namespace vorbel::sim {
 using WinTable = std::array<std::array<int, allDifficulties.size()>, allDifficulties.size()>;
 
 struct LadderSettings {
-    int matchesPerPair = 200; // half of a pair's matches with either level as red
+    int matchesPerCell =
+        100; // at most 2³⁰; with either level of a pair as red, so a pair plays twice as many
     std::uint64_t firstSeed = 1;
-    unsigned jobs = 1; // threads
+    unsigned jobs = 1; // threads; more than 256, or than the system gives, are as many as there are
 };
+
+[[nodiscard]] std::int64_t matchesOf(const LadderSettings& settings);
 
 [[nodiscard]] WinTable playLadder(const LadderSettings& settings);
 

@@ -94,6 +94,14 @@ std::variant<Options, std::string> parseOptions(std::span<const char* const> arg
     return options;
 }
 
+LadderSettings ladderSettings(const Options& options) {
+    LadderSettings settings{.firstSeed = options.seed, .jobs = options.jobs};
+    if (options.matchesGiven) {
+        settings.matchesPerCell = options.matches / 2 + options.matches % 2;
+    }
+    return settings;
+}
+
 std::string_view helpText() {
     return "vorbel-sim: boccia matches between two computer sides, without a window.\n"
            "\n"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "rules/MatchTypes.h"
+#include "tools/sim/Ladder.h"
 
 #include <cstdint>
 #include <span>
@@ -26,6 +27,9 @@ struct Options {
 
 // The options, or one line that says what is wrong with the arguments (the program's name not among them).
 [[nodiscard]] std::variant<Options, std::string> parseOptions(std::span<const char* const> arguments);
+
+// A number of matches that is odd becomes the next even one.
+[[nodiscard]] LadderSettings ladderSettings(const Options& options);
 
 [[nodiscard]] std::string_view helpText();
 

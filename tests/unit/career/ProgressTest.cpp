@@ -31,6 +31,8 @@ TEST(Progress, EveryThresholdOfTheLadderChangesTheRank) {
 TEST(Progress, ADamagedCountReadsAsTheLowestRank) {
     EXPECT_EQ(rankKey(-5).name(), "rank.novice");
     EXPECT_EQ(gamesToNextRank(-5), 5);
+    EXPECT_EQ(gamesToNextRank(-INT_MAX), INT_MAX);
+    EXPECT_EQ(gamesToNextRank(INT_MIN), INT_MAX);
 }
 
 } // namespace vorbel

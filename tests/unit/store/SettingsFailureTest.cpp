@@ -51,6 +51,7 @@ TEST_F(SettingsFailureTest, aDamagedFileCostsNoOtherValueAndIsSetAside) {
         defaults.setInteger("boccia_athleteXP", 1);
         EXPECT_EQ(defaults.integer("boccia_athleteXP"), 1) << damaged;
         EXPECT_EQ(contentOf(folder / "boccia_athleteXP.damaged"), damaged);
+        fs::remove(folder / "boccia_athleteXP.damaged");
     }
 }
 
@@ -143,9 +144,13 @@ TEST_F(SettingsFailureTest, aGameKilledAtAnyMomentLeavesWholeValuesAndLosesNone)
     defaults.setText("boccia_language", "el");
     const SharedCounter stored;
     for (int kill = 0; kill < 300; ++kill) {
+        const int before = stored.value;
         const pid_t child = fork();
         if (child == 0) {
             storeUntilKilled(folder, stored.value);
+        }
+        while (kill % 10 == 0 && stored.value == before) { // on a busy machine the others come to nothing
+            std::this_thread::yield();
         }
         std::this_thread::sleep_for(std::chrono::microseconds(2000 + 3701 * kill % 16000));
         ::kill(child, SIGKILL);
@@ -159,11 +164,10 @@ TEST_F(SettingsFailureTest, aGameKilledAtAnyMomentLeavesWholeValuesAndLosesNone)
         ASSERT_TRUE(text->find_first_not_of(text->substr(0, 1)) == std::string::npos) << "half a text";
         ASSERT_EQ(defaults.text("boccia_language"), "el");
     }
-    EXPECT_GT(stored.value, 0) << "the children did store";
-    const auto files = std::distance(fs::directory_iterator(folder), fs::directory_iterator());
-    RecordProperty("files_left", std::to_string(files));
     RecordProperty("stored", std::to_string(stored.value));
-    EXPECT_LE(files, 3 + 30) << "few of the killed games leave an unfinished file behind";
+    SettingsDefaults(folder).setInteger("counter", 0);
+    const auto files = std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+    EXPECT_EQ(files, 3) << "what the killed games left is gone";
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "platform/store/SettingsDefaults.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <fstream>

@@ -1,0 +1,75 @@
+// The simulator as a program: its limits, what it says, its status.
+#include "tools/sim/Options.h"
+#include "tools/sim/Simulator.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <limits>
+#include <sstream>
+#include <vector>
+
+namespace vorbel::sim {
+
+namespace {
+
+using Arguments = std::vector<const char*>;
+
+LadderSettings ladder(const Arguments& arguments) {
+    return ladderSettings(std::get<Options>(parseOptions(arguments)));
+}
+
+} // namespace
+
+TEST(SimulatorProgram, TellsAMatchInALine) {
+    std::ostringstream out;
+    std::ostringstream errors;
+    EXPECT_EQ(simulate(Arguments{"--seed", "3"}, out, errors), 0);
+    EXPECT_TRUE(out.str().starts_with("match 3  red medium  blue medium  score ")) << out.str();
+    EXPECT_EQ(errors.str(), "");
+}
+
+TEST(SimulatorProgram, WrongArgumentsAreOneLineAndStatus2) {
+    std::ostringstream out;
+    std::ostringstream errors;
+    EXPECT_EQ(simulate(Arguments{"--fast"}, out, errors), 2);
+    EXPECT_EQ(out.str(), "");
+    EXPECT_EQ(errors.str(), "vorbel-sim: unknown option --fast; see vorbel-sim --help\n");
+}
+
+TEST(SimulatorProgram, OutputThatCannotBeWrittenIsOneLineAndStatus1) {
+    for (const Arguments& arguments : {Arguments{"--help"}, Arguments{"--matches", "2147483647"}}) {
+        std::ofstream full("/dev/full");
+        std::ostringstream errors;
+        EXPECT_EQ(simulate(arguments, full, errors), 1) << arguments[0];
+        EXPECT_EQ(errors.str(), "vorbel-sim: cannot write the output\n");
+    }
+}
+
+TEST(SimulatorProgram, AnOddNumberOfMatchesOnTheLadderBecomesEven) {
+    EXPECT_EQ(ladder({}).matchesPerCell, 100);
+    EXPECT_EQ(ladder({"--matches", "6"}).matchesPerCell, 3);
+    EXPECT_EQ(ladder({"--matches", "5"}).matchesPerCell, 3);
+}
+
+TEST(SimulatorProgram, TheLargestLadderIsCounted) {
+    const LadderSettings settings = ladder({"--matches", "2147483647"});
+    EXPECT_EQ(settings.matchesPerCell, 1 << 30);
+    EXPECT_EQ(matchesOf(settings), std::int64_t{1} << 34);
+    WinTable half{};
+    for (auto& row : half) {
+        row.fill(settings.matchesPerCell / 2);
+    }
+    EXPECT_EQ(winRate(half, settings.matchesPerCell, AIDifficulty::hard, AIDifficulty::easy), 0.5);
+    half[2][0] = settings.matchesPerCell;
+    half[0][2] = 0;
+    EXPECT_EQ(winRate(half, settings.matchesPerCell, AIDifficulty::hard, AIDifficulty::easy), 1);
+}
+
+TEST(SimulatorProgram, MoreJobsThanThereCanBeAreAsManyAsThereAre) {
+    LadderSettings few{.matchesPerCell = 1};
+    LadderSettings many{.matchesPerCell = 1, .jobs = std::numeric_limits<unsigned>::max()};
+    EXPECT_EQ(playLadder(many), playLadder(few));
+}
+
+} // namespace vorbel::sim
