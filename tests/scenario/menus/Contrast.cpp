@@ -27,7 +27,8 @@ double luminance(const QColor& color) {
 // Paints as the toolkit does, from back to front, until it comes to the text: what is then seen at its place.
 class Painter {
 public:
-    Painter(const QQuickItem& text, const QColor& behind) : text_(text), place_(inScene(text)), seen_(behind) {}
+    Painter(const QQuickItem& text, const QColor& behind)
+        : text_(text), place_(inScene(text)), seen_(behind) {}
 
     [[nodiscard]] double contrastWithText(QQuickItem& root) {
         paint(root, 1);

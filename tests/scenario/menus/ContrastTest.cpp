@@ -1,6 +1,6 @@
 // Every text of the display and of the menu stands out from whatever of the arena lies behind it.
-#include "tests/MatchSetup.h"
 #include "tests/scenario/menus/Contrast.h"
+#include "tests/MatchSetup.h"
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include <gtest/gtest.h>
@@ -58,8 +58,8 @@ TEST_F(ContrastTest, OfTheDisplayDuringAMatch) {
 }
 
 TEST_F(ContrastTest, OfEveryScreenOfTheMenu) {
-    for (const MenuScreen screen : {MenuScreen::main, MenuScreen::country, MenuScreen::bcClass, MenuScreen::rules,
-                                    MenuScreen::about, MenuScreen::diary}) {
+    for (const MenuScreen screen : {MenuScreen::main, MenuScreen::country, MenuScreen::bcClass,
+                                    MenuScreen::rules, MenuScreen::about, MenuScreen::diary}) {
         game.open(screen);
         EXPECT_GT(expectLegible(game.menu()), 2);
     }

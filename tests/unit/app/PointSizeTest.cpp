@@ -13,7 +13,8 @@ constexpr int border = 5;
 
 // Free areas of screens, in pixels of the desktop: 1366 × 768 with and without a panel, 1920 × 1080 at 150 %,
 // 1920 × 1200 at 200 %, small tablets.
-constexpr QSize smallScreens[] = {{1366, 768}, {1366, 720}, {1280, 720}, {960, 600}, {1024, 600}, {800, 1280}};
+constexpr QSize smallScreens[] = {{1366, 768}, {1366, 720}, {1280, 720},
+                                  {960, 600},  {1024, 600}, {800, 1280}};
 
 } // namespace
 
@@ -27,7 +28,8 @@ TEST(PointSizeTest, ThereAreNeverFewerPointsThanTheInterfaceIsLaidOutFor) {
         const QSizeF points = window / pointSize(window);
         EXPECT_GE(points.width(), 1200 - 1e-9) << window.width();
         EXPECT_GE(points.height(), 800 - 1e-9) << window.height();
-        EXPECT_LT(std::min(points.width() / 1200, points.height() / 800), 1 + 1e-9) << "and no smaller than must be";
+        EXPECT_LT(std::min(points.width() / 1200, points.height() / 800), 1 + 1e-9)
+            << "and no smaller than must be";
     }
 }
 
