@@ -41,9 +41,6 @@ Panel {
                 color: Theme.orange
                 font.pixelSize: Theme.caption
                 font.bold: true
-                wrapMode: Text.Wrap
-                Layout.fillWidth: true
-                Layout.maximumWidth: implicitWidth
             }
             Item {
                 Layout.fillWidth: true

@@ -10,7 +10,7 @@ namespace vorbel {
 namespace {
 
 QColor over(const QColor& color, double opacity, const QColor& ground) {
-    const double share = static_cast<double>(color.alphaF()) * opacity;
+    const double share = double{color.alphaF()} * opacity;
     const auto mix = [share](double above, double below) { return std::lerp(below, above, share); };
     return QColor::fromRgbF(static_cast<float>(mix(color.redF(), ground.redF())),
                             static_cast<float>(mix(color.greenF(), ground.greenF())),

@@ -26,7 +26,10 @@ protected:
         collect(
             root,
             [](QQuickItem& item) {
-                return isOfType(item, "QQuickText") && !item.property("text").toString().isEmpty();
+                const QString words = item.property("text").toString();
+                const bool isFlag =
+                    !words.isEmpty() && words.at(0).isHighSurrogate(); // has colours of its own
+                return isOfType(item, "QQuickText") && !words.isEmpty() && !isFlag;
             },
             texts);
         for (QQuickItem* text : texts) {
