@@ -46,16 +46,16 @@ private:
                 QStringLiteral("click"), QString::fromLatin1(buttons[upTo(7)])};
     }
     QStringList key() {
-        constexpr const char* keys[] = {"space", "Return", "Tab",    "shift+Tab", "Left",      "Right", "Up",
-                                        "Down",  "Escape", "F10",    "F11",       "ctrl+n",    "Return",
-                                        "Tab",   "End",    "Page_Down"};
+        constexpr const char* keys[] = {"space",  "Return", "Tab",    "shift+Tab", "Left", "Right",
+                                        "Up",     "Down",   "Escape", "F10",       "F11",  "ctrl+n",
+                                        "Return", "Tab",    "End",    "Page_Down"};
         return {QStringLiteral("key"), QString::fromLatin1(keys[upTo(16)])};
     }
     QStringList resize() {
         width_ = 1200 + upTo(500);
         height_ = 800 + upTo(300);
-        return {QStringLiteral("search"),     QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
-                QStringLiteral("^VORBEL$"),   QStringLiteral("windowsize"),    QString::number(width_),
+        return {QStringLiteral("search"),   QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+                QStringLiteral("^VORBEL$"), QStringLiteral("windowsize"),    QString::number(width_),
                 QString::number(height_)};
     }
 
