@@ -1,8 +1,17 @@
 #include "app/Application.h"
 #include "app/command_line/CommandLine.h"
+#include "app/command_line/Output.h"
 
 #include <cstdio>
 #include <cstdlib>
+
+namespace {
+
+int print(const std::string& text) {
+    return vorbel::isWritten(text, stdout) ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     using vorbel::CommandLine;
@@ -11,11 +20,9 @@ int main(int argc, char** argv) {
     const CommandLine commandLine = CommandLine::parse(arguments.subspan(argc > 0 ? 1 : 0));
     switch (commandLine.action) {
     case CommandLine::Action::showHelp:
-        std::fputs(CommandLine::helpText().c_str(), stdout);
-        return EXIT_SUCCESS;
+        return print(CommandLine::helpText());
     case CommandLine::Action::showVersion:
-        std::fputs(CommandLine::versionText().c_str(), stdout);
-        return EXIT_SUCCESS;
+        return print(CommandLine::versionText());
     case CommandLine::Action::complain:
         std::fprintf(stderr, "vorbel: %s\n", commandLine.complaint.c_str());
         return wrongUsage;

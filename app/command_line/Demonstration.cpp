@@ -1,10 +1,10 @@
 #include "app/command_line/Demonstration.h"
 
+#include "app/command_line/Output.h"
+
 #include <QCoreApplication>
 #include <QImage>
 #include <QQuickWindow>
-
-#include <cstdio>
 
 namespace vorbel {
 
@@ -66,11 +66,7 @@ void Demonstration::takePicture(const QString& stage) {
         return;
     }
     const QString name = QStringLiteral("%1-%2.png").arg(++pictures_, 2, 10, QLatin1Char('0')).arg(stage);
-    const QString file = QString::fromStdString((folder_ / name.toStdString()).string());
-    if (!window_.grabWindow().save(file)) {
-        std::fprintf(stderr, "vorbel: cannot write the picture %s\n", qUtf8Printable(file));
-        failed_ = true;
-    }
+    failed_ = !isWritten(window_.grabWindow(), folder_ / name.toStdString()) || failed_;
     window_.update(); // a grabbed picture is not reported as shown, the next one is
 }
 

@@ -1,5 +1,6 @@
 #include "app/command_line/Screenshot.h"
 
+#include "app/command_line/Output.h"
 #include "engine/GameLogic.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/render/Offscreen.h"
@@ -30,11 +31,7 @@ int takeScreenshot(const std::filesystem::path& file) {
         std::fprintf(stderr, "vorbel: %s\n", error.c_str());
         return EXIT_FAILURE;
     }
-    if (!picture.save(QString::fromStdString(file.string()), "PNG")) {
-        std::fprintf(stderr, "vorbel: cannot write the picture %s\n", file.c_str());
-        return EXIT_FAILURE;
-    }
-    return EXIT_SUCCESS;
+    return isWritten(picture, file) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 } // namespace vorbel

@@ -129,8 +129,12 @@ TEST_F(SettingsDamageTest, WhatAKilledGameLeftUnfinishedIsRemovedAtTheNextStart)
     for (const char* file : {"boccia_athleteXP.aBcXyZ", "boccia_diaryData.ZZZZZZ"}) {
         write(folder / file, "integer\n");
     }
-    const std::vector<fs::path> others{"boccia_gamesPlayed",       "boccia_athleteXP.damaged",
-                                       "boccia_athleteXP.damaged-2", "notes.txt", "key.abc123", "key.abcdefg"};
+    const std::vector<fs::path> others{"boccia_gamesPlayed",
+                                       "boccia_athleteXP.damaged",
+                                       "boccia_athleteXP.damaged-2",
+                                       "notes.txt",
+                                       "key.abc123",
+                                       "key.abcdefg"};
     for (const fs::path& file : others) {
         write(folder / file, "integer\n5");
     }
