@@ -1,7 +1,7 @@
 #include "tools/sim/Ladder.h"
 
+#include "tools/sim/Levels.h"
 #include "tools/sim/MatchPlayer.h"
-#include "tools/sim/Trace.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,6 +1,6 @@
 #include "tools/sim/Options.h"
 
-#include "tools/sim/Trace.h"
+#include "tools/sim/Levels.h"
 
 #include <charconv>
 #include <optional>

@@ -1,6 +1,7 @@
 #include "tools/sim/Trace.h"
 
 #include "l10n/L10n.h"
+#include "tools/sim/Levels.h"
 
 #include <array>
 #include <iomanip>
@@ -16,11 +17,6 @@ std::string_view phaseName(GamePhase phase) {
 }
 
 } // namespace
-
-std::string_view levelName(AIDifficulty level) {
-    constexpr std::array<std::string_view, allDifficulties.size()> names{"easy", "medium", "hard", "ultra"};
-    return names[static_cast<std::size_t>(level)];
-}
 
 void writeThrow(std::ostream& out, const Throw& played, const GameLogic& game) {
     out << std::fixed << "end " << played.end << "  " << std::setw(4) << nodeName(played.side) << " throws "

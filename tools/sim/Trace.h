@@ -13,6 +13,4 @@ void writeThrow(std::ostream& out, const Throw& played, const GameLogic& game);
 // One line: the score, the ends, the time it took on the clock of the match.
 void writeResult(std::ostream& out, const Pairing& pairing, const MatchPlayer& match);
 
-[[nodiscard]] std::string_view levelName(AIDifficulty level);
-
 } // namespace vorbel::sim

@@ -7,7 +7,7 @@
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QtMath>
+#include <QtCore/qmath.h>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The career on a disk that others write too: counts at their limits, games that run at once, damage.
-#include "career/Diary.h"
 #include "app/career/Career.h"
+#include "career/Diary.h"
 #include "platform/random/RandomSource.h"
 #include "tests/unit/store/SettingsFolder.h"
 

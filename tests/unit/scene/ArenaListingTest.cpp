@@ -32,14 +32,14 @@ TEST(ArenaListingTest, EverythingButTheSpectatorsIsWhereAndAsItIsListed) {
     SeededRandom random(1);
     std::vector<std::string> lines = listingOf(arena::makeArena(random));
     EXPECT_EQ(std::erase_if(lines, isSpectator), 360U);
-    expectListed(lines, folder / "arena.txt");
+    expectListed(lines, folder / "arena.list");
 }
 
 TEST(ArenaListingTest, SpectatorsFillTheStandsAsTheirRandomSourceSays) {
     SeededRandom random(1);
     Scene stands;
     arena::addStands(stands, 6, 12.5, random);
-    expectListed(listingOf(stands), folder / "stands.txt");
+    expectListed(listingOf(stands), folder / "stands.list");
 }
 
 TEST(ArenaListingTest, TheLowestDrawsGiveTheSmallestSpectatorsAtTheirNearestPlaces) {
@@ -67,7 +67,7 @@ TEST(ArenaListingTest, FlagsOfAnySizeKeepTheirProportions) {
           arena::makeStarFlag(4, 3)}) {
         flags.root->addChild(flag);
     }
-    expectListed(listingOf(flags), folder / "flags.txt");
+    expectListed(listingOf(flags), folder / "flags.list");
 }
 
 } // namespace vorbel::test

@@ -1,0 +1,81 @@
+#include "tests/fuzz/FuzzTargets.h"
+
+#include "app/command_line/CommandLine.h"
+#include "career/Diary.h"
+#include "platform/store/DefaultsValue.h"
+#include "tools/sim/Options.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+namespace vorbel {
+
+namespace {
+
+void require(bool kept) {
+    if (!kept) {
+        std::abort();
+    }
+}
+
+// Dates are stored as doubles, whose steps are a microsecond 250 years from the clock's epoch.
+bool isSameEntry(const DiaryEntry& one, const DiaryEntry& other) {
+    constexpr auto tolerance = std::chrono::microseconds(10);
+    return one.id == other.id && one.resultKey == other.resultKey && one.xpGained == other.xpGained &&
+           std::chrono::abs(one.date - other.date) < tolerance;
+}
+
+std::vector<std::string> linesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        lines.emplace_back(text.substr(0, end).data(), std::min(text.find('\0'), end)); // as a process gets it
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+void parseForGame(std::vector<std::string>& arguments) {
+    std::vector<char*> pointers;
+    std::ranges::transform(arguments, std::back_inserter(pointers), [](std::string& text) { return text.data(); });
+    const CommandLine parsed = CommandLine::parse(pointers);
+    require(parsed.complaint.empty() == (parsed.action != CommandLine::Action::complain));
+    require(parsed.screenshotsFolder.empty() || parsed.action != CommandLine::Action::play);
+}
+
+void parseForSimulator(const std::vector<std::string>& arguments) {
+    std::vector<const char*> pointers;
+    std::ranges::transform(arguments, std::back_inserter(pointers), &std::string::c_str);
+    const auto parsed = sim::parseOptions(pointers);
+    if (const auto* options = std::get_if<sim::Options>(&parsed)) {
+        require(options->matches >= 1 && options->jobs >= 1);
+        const sim::LadderSettings ladder = sim::ladderSettings(*options);
+        require(ladder.matchesPerCell >= 1 && ladder.matchesPerCell <= 1 << 30);
+    } else {
+        require(!std::get<std::string>(parsed).empty());
+    }
+}
+
+} // namespace
+
+void fuzzSettings(std::string_view content) {
+    if (const auto value = decoded(content)) {
+        require(decoded(encoded(*value)) == value);
+    }
+}
+
+void fuzzDiary(std::string_view json) {
+    const ReadDiary diary = readDiary(json);
+    require(decodeDiary(json) == (diary.damaged ? std::vector<DiaryEntry>() : diary.entries));
+    const ReadDiary again = readDiary(encodeDiary(diary.entries));
+    require(!again.damaged && std::ranges::equal(again.entries, diary.entries, isSameEntry));
+}
+
+void fuzzCommandLine(std::string_view arguments) {
+    std::vector<std::string> lines = linesOf(arguments);
+    parseForGame(lines);
+    parseForSimulator(lines);
+}
+
+} // namespace vorbel
