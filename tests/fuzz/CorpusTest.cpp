@@ -22,7 +22,8 @@ class CorpusTest : public testing::TestWithParam<Fuzzed> {};
 
 TEST_P(CorpusTest, IsReadAsPromised) {
     int files = 0;
-    for (const auto& file : std::filesystem::directory_iterator(std::filesystem::path(VORBEL_CORPUS) / GetParam().folder)) {
+    for (const auto& file :
+         std::filesystem::directory_iterator(std::filesystem::path(VORBEL_CORPUS) / GetParam().folder)) {
         std::ifstream stream(file.path(), std::ios::binary);
         GetParam().read(std::string(std::istreambuf_iterator<char>(stream), {}));
         ++files;

@@ -30,7 +30,8 @@ std::vector<std::string> linesOf(std::string_view text) {
     std::vector<std::string> lines;
     while (!text.empty()) {
         const std::size_t end = std::min(text.find('\n'), text.size());
-        lines.emplace_back(text.substr(0, end).data(), std::min(text.find('\0'), end)); // as a process gets it
+        lines.emplace_back(text.substr(0, end).data(),
+                           std::min(text.find('\0'), end)); // as a process gets it
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return lines;
@@ -38,7 +39,8 @@ std::vector<std::string> linesOf(std::string_view text) {
 
 void parseForGame(std::vector<std::string>& arguments) {
     std::vector<char*> pointers;
-    std::ranges::transform(arguments, std::back_inserter(pointers), [](std::string& text) { return text.data(); });
+    std::ranges::transform(arguments, std::back_inserter(pointers),
+                           [](std::string& text) { return text.data(); });
     const CommandLine parsed = CommandLine::parse(pointers);
     require(parsed.complaint.empty() == (parsed.action != CommandLine::Action::complain));
     require(parsed.screenshotsFolder.empty() || parsed.action != CommandLine::Action::play);
