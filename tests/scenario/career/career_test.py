@@ -112,7 +112,7 @@ class CareerTest(unittest.TestCase):
         self.choose(EN["menu.play"])
         game.find("heading", EN["menu.sportClass"])
         self.is_checked("radio button", "BC2")
-        game.key("Return")
+        self.choose(EN["menu.play"])
         self.assertTrue(self.shows_round(1))
         self.choose(EN["difficulty.ultra"])
         self.choose(BLUE_SWITCH)
