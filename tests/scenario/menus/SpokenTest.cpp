@@ -57,28 +57,4 @@ TEST_F(SpokenTest, EachClassIsDescribedByItsOwnRadioButton) {
     EXPECT_THAT(texts(QAccessible::RadioButton, QAccessible::Description), testing::IsSupersetOf(expected));
 }
 
-TEST_F(SpokenTest, ThePowerBarTellsThePower) {
-    game.open(MenuScreen::hidden);
-    MatchSetup(game.view().gameLogic()).state().aimState = AimState::aimingPower;
-    MatchSetup(game.view().gameLogic()).state().aimPower = 41.6;
-    const auto bars = spoken(QAccessible::ProgressBar);
-    ASSERT_EQ(bars.size(), 1u);
-    EXPECT_EQ(bars[0]->text(QAccessible::Name), QStringLiteral("Throw power"));
-    QAccessibleValueInterface* value = bars[0]->valueInterface();
-    ASSERT_NE(value, nullptr);
-    EXPECT_EQ(value->currentValue().toInt(), 42);
-    EXPECT_EQ(value->minimumValue().toInt(), 0);
-    EXPECT_EQ(value->maximumValue().toInt(), 100);
-}
-
-TEST_F(SpokenTest, ARadioButtonListsEachActionOnce) {
-    game.open(MenuScreen::bcClass);
-    const auto buttons = spoken(QAccessible::RadioButton);
-    ASSERT_FALSE(buttons.empty());
-    for (QAccessibleInterface* button : buttons) {
-        const QStringList actions = button->actionInterface()->actionNames();
-        EXPECT_EQ(QStringList(actions).removeDuplicates(), 0) << actions.join(QLatin1Char(' ')).toStdString();
-    }
-}
-
 } // namespace vorbel
