@@ -152,11 +152,10 @@ TEST_P(LayoutTest, ShortcutsWorkUnderTheLayout) {
     EXPECT_TRUE(waitUntil([&] { return window->frame() == before; }));
 }
 
-INSTANTIATE_TEST_SUITE_P(Layouts, LayoutTest, testing::Values("us", "ru"),
-                         [](const auto& test) {
-                             std::string name = test.param;
-                             std::erase(name, ',');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Layouts, LayoutTest, testing::Values("us", "ru"), [](const auto& test) {
+    std::string name = test.param;
+    std::erase(name, ',');
+    return name;
+});
 
 } // namespace vorbel
