@@ -10,13 +10,13 @@ Item {
     signal activated()
 
     Shortcut {
-        sequences: command.sequences
+        sequences: command.sequences // qmllint disable
         enabled: command.enabled
         autoRepeat: false
         onActivated: command.activated()
     }
     LatinKeys {
-        sequences: command.sequences
+        sequences: command.sequences // qmllint disable
         enabled: command.enabled
         onActivated: command.activated()
     }
