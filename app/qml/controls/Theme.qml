@@ -33,7 +33,8 @@ QtObject {
     property real point: 1 // in pixels of the window, which sets it
     readonly property real thinLine: Math.max(1, 1 / point) // a pixel at least
 
-    property string fontFamily: Qt.application.font.family // of the player's language; the window follows it // qmllint disable
+    // Of the language of the player; the window follows it.
+    property string fontFamily: Qt.application.font.family // qmllint disable
 
     function white(opacity: real): color {
         return Qt.rgba(1, 1, 1, opacity);
