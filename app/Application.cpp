@@ -73,6 +73,12 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     const bool demonstrate = commandLine.action == CommandLine::Action::demonstrate;
     MemoryDefaults guest = Demonstration::guestDefaults(platform.defaults);
     UserDefaults& player = platform.defaults;
+    if (commandLine.resetOptions) {
+        Options::reset(player);
+    }
+    if (commandLine.oneSwitch) {
+        Options(player).set(Option::switchOn, 1);
+    }
     ContentView view(platform.services(), demonstrate ? guest : player);
     view.receiveNotifications(notifications);
     setDefaultFont(view.settings()->selectedLanguage());
@@ -80,6 +86,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
                      [&shell] { shell.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(platform.resources));
+    application.installEventFilter(view.oneSwitch()); // sees what the next one lets through
     HeldKeys heldKeys;
     application.installEventFilter(&heldKeys);
     QQmlApplicationEngine engine;
@@ -97,6 +104,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
         return EXIT_FAILURE; // the engine has said why
     }
     prepareWindow(*window);
+    view.oneSwitch()->setWindow(*window);
     QtWindowFrame frame(*window);
     shell.setWindow(frame);
     QObject::connect(&frame, &QtWindowFrame::screenChanged, &shell, [&shell, window] {
