@@ -66,6 +66,19 @@ QIcon windowIcon(const Resources& resources) {
     return icon;
 }
 
+// Sees each event before the event filters do, those of the toolkit included.
+class KeyJudgingApplication final : public QGuiApplication {
+public:
+    using QGuiApplication::QGuiApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        return heldKeys_.holdBack(*event) || QGuiApplication::notify(receiver, event);
+    }
+
+private:
+    HeldKeys heldKeys_;
+};
+
 int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     chooseGraphics();
     WindowPlatform platform;
@@ -80,8 +93,6 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
                      [&shell] { shell.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(platform.resources));
-    HeldKeys heldKeys;
-    application.installEventFilter(&heldKeys);
     QQmlApplicationEngine engine;
     const QSize smallest = smallestWindow(QGuiApplication::primaryScreen()->availableSize());
     engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)},
@@ -117,7 +128,7 @@ int runApplication(int argc, char** argv, const CommandLine& commandLine) {
     configureMemory();
     std::optional<DisplayGuard> guard(std::in_place);
     int programNameOnly = std::min(argc, 1);
-    QGuiApplication application(programNameOnly, argv);
+    KeyJudgingApplication application(programNameOnly, argv);
     guard.reset();
     QGuiApplication::setApplicationName(QStringLiteral("vorbel"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("VORBEL"));
