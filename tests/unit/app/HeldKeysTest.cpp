@@ -1,5 +1,6 @@
 #include "app/window/HeldKeys.h"
 
+#include <QInputDevice>
 #include <QKeyEvent>
 
 #include <gtest/gtest.h>
@@ -9,10 +10,12 @@ namespace vorbel {
 class HeldKeysTest : public testing::Test {
 protected:
     HeldKeys heldKeys;
+    const QInputDevice keyboard{QString(), 1,
+                                QInputDevice::DeviceType::Keyboard}; // Qt would make one and keep it
 
     // Whether the event goes no further.
     bool swallows(QEvent::Type type, Qt::Key key, quint64 time, bool marked = false, quint32 scanCode = 65) {
-        QKeyEvent event(type, key, Qt::NoModifier, scanCode, 0, 0, QString(), marked);
+        QKeyEvent event(type, key, Qt::NoModifier, scanCode, 0, 0, QString(), marked, 1, &keyboard);
         event.setTimestamp(time);
         return heldKeys.holdBack(event);
     }
@@ -47,7 +50,8 @@ TEST_F(HeldKeysTest, ARepeatThatIsMarkedIsOneToo) {
 
 TEST_F(HeldKeysTest, AShortcutIsNotLookedForARepeat) {
     EXPECT_FALSE(release(Qt::Key_Space, 1660));
-    QKeyEvent override(QEvent::ShortcutOverride, Qt::Key_Space, Qt::NoModifier, 65, 0, 0);
+    QKeyEvent override(QEvent::ShortcutOverride, Qt::Key_Space, Qt::NoModifier, 65, 0, 0, QString(), false, 1,
+                       &keyboard);
     override.setTimestamp(1660);
     override.ignore();
     EXPECT_TRUE(heldKeys.holdBack(override));
