@@ -66,6 +66,19 @@ QIcon windowIcon(const Resources& resources) {
     return icon;
 }
 
+// Sees each event before the event filters do, those of the toolkit included.
+class KeyJudgingApplication final : public QGuiApplication {
+public:
+    using QGuiApplication::QGuiApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        return heldKeys_.holdBack(*event) || QGuiApplication::notify(receiver, event);
+    }
+
+private:
+    HeldKeys heldKeys_;
+};
+
 int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     chooseGraphics();
     WindowPlatform platform;
@@ -86,9 +99,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
                      [&shell] { shell.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(platform.resources));
-    application.installEventFilter(view.oneSwitch()); // sees what the next one lets through
-    HeldKeys heldKeys;
-    application.installEventFilter(&heldKeys);
+    application.installEventFilter(view.oneSwitch()); // held keys were judged before
     QQmlApplicationEngine engine;
     const QSize smallest = smallestWindow(QGuiApplication::primaryScreen()->availableSize());
     engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)},
@@ -125,7 +136,7 @@ int runApplication(int argc, char** argv, const CommandLine& commandLine) {
     configureMemory();
     std::optional<DisplayGuard> guard(std::in_place);
     int programNameOnly = std::min(argc, 1);
-    QGuiApplication application(programNameOnly, argv);
+    KeyJudgingApplication application(programNameOnly, argv);
     guard.reset();
     QGuiApplication::setApplicationName(QStringLiteral("vorbel"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("VORBEL"));

@@ -7,7 +7,7 @@ namespace vorbel {
 
 namespace {
 
-constexpr std::size_t few = 4;  // controls that are offered one by one though they belong together
+constexpr std::size_t few = 4;   // controls that are offered one by one though they belong together
 constexpr int patientRounds = 2; // through a level without a press
 
 } // namespace

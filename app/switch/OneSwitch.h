@@ -20,9 +20,8 @@ namespace vorbel {
 class OpenMenu;
 class PlayerSettings;
 
-// The switch is Space, Return or a click anywhere; while the option is on they do nothing else. As an event
-// filter of the application it must see the events after the one that swallows the repeats of held keys.
-// Main thread only.
+// The switch is Space, Return or a click anywhere; while the option is on they do nothing else. It is an event
+// filter for the application, which the repeats of a held key must not reach. Main thread only.
 class OneSwitch final : public QObject {
     Q_OBJECT
     QML_ELEMENT
