@@ -149,6 +149,9 @@ flat in vec3 ballDiffuse;
 flat in vec3 ballEmission;
 flat in float lightShare;
 
+const float outlineWidth = 1.4; // pixels
+const float outlineDepth = 0.75;
+
 // Leather panels, eight on a ball, every other one a little darker, with sewn seams between them: so that the
 // turning of a ball is seen. All together they have the colour of the ball. Small balls are plain.
 float leather(vec3 normal, float pixelsAcross) {
@@ -202,7 +205,11 @@ void main() {
     light *= leather(normal, pixelsAcross);
     float inFront = clamp((ground.depth - depth) / softness + 0.5, 0.0, 1.0);
     cover *= inFront;
-    color = vec4(encoded(light), cover);
+    // A small ball gets a thin dark outline: it stands out from a ground that is as light as itself.
+    float outline = clamp((ball.w - off) / pixel + 0.5 + outlineWidth, 0.0, 1.0) * inFront;
+    outline *= outlineDepth * (1.0 - smoothstep(16.0, 40.0, pixelsAcross));
+    float all = cover + (1.0 - cover) * outline;
+    color = vec4(encoded(light) * cover / max(all, 1e-3), all);
 #endif
 }
 )";
