@@ -114,7 +114,8 @@ TEST_F(TrackedBallsTest, PlanListsForEachRegionTheBallsThatMatterThere) {
 TEST_F(TrackedBallsTest, ListsOfManyBallsHaveRoom) {
     frame.balls.clear();
     for (std::size_t i = 0; i < mostBalls; ++i) {
-        frame.balls.push_back(ballAt(2, {0.15F * static_cast<float>(i % 8), 0.1F, -4 - 0.15F * static_cast<float>(i / 8)}));
+        frame.balls.push_back(
+            ballAt(2, {0.15F * static_cast<float>(i % 8), 0.1F, -4 - 0.15F * static_cast<float>(i / 8)}));
     }
     follow();
     BallPlan plan;
