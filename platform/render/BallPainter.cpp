@@ -36,18 +36,15 @@ std::optional<ShaderProgram> makeProgram(std::string_view vertex, std::string_vi
 
 std::unique_ptr<BallPainter> BallPainter::create(std::string& error) {
     auto region = makeProgram(shaders::regionVertex, shaders::regionFragment, "", error);
-    auto image = makeProgram(shaders::ballVertex, shaders::ballFragment, "MIRROR", error);
     auto ball = makeProgram(shaders::ballVertex, shaders::ballFragment, "", error);
-    if (!region || !image || !ball) {
+    if (!region || !ball) {
         return nullptr;
     }
-    return std::unique_ptr<BallPainter>(
-        new BallPainter(std::move(*region), std::move(*image), std::move(*ball)));
+    return std::unique_ptr<BallPainter>(new BallPainter(std::move(*region), std::move(*ball)));
 }
 
-BallPainter::BallPainter(ShaderProgram region, ShaderProgram image, ShaderProgram ball)
+BallPainter::BallPainter(ShaderProgram region, ShaderProgram ball)
     : region_(std::move(region)),
-      image_(std::move(image)),
       ball_(std::move(ball)),
       uniforms_(newBuffer(currentGl())),
       quads_(newBuffer(currentGl())),
@@ -87,7 +84,13 @@ void BallPainter::paint(QOpenGLExtraFunctions& gl, const BallPlan& plan, const S
                     plan.quads().data(), GL_STREAM_DRAW);
     stage.bind(gl);
     drawQuads(gl, region_, 0, plan.regions());
-    drawQuads(gl, image_, plan.regions(), plan.images());
+    if (plan.images() > 0 && !image_) {
+        std::string error; // there is nothing in this shader that is not in the other, which the driver took
+        image_ = makeProgram(shaders::ballVertex, shaders::ballFragment, "MIRROR", error);
+    }
+    if (image_) {
+        drawQuads(gl, *image_, plan.regions(), plan.images());
+    }
     gl.glEnable(GL_BLEND);
     gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
     drawQuads(gl, ball_, plan.regions() + plan.images(), plan.balls());

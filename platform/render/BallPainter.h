@@ -19,13 +19,13 @@ public:
     void paint(QOpenGLExtraFunctions& gl, const BallPlan& plan, const Stage& stage);
 
 private:
-    BallPainter(ShaderProgram region, ShaderProgram image, ShaderProgram ball);
+    BallPainter(ShaderProgram region, ShaderProgram ball);
     void drawQuads(QOpenGLExtraFunctions& gl, const ShaderProgram& program, std::size_t first,
                    std::size_t count);
 
     ShaderProgram region_;
-    ShaderProgram image_;
     ShaderProgram ball_;
+    std::optional<ShaderProgram> image_; // balls seldom leave the court: made when it is first used
     GlObject uniforms_;
     GlObject quads_;
     GlObject quadArray_;

@@ -31,7 +31,7 @@ std::string contextProblem() {
            std::to_string(version.first) + "." + std::to_string(version.second) + ".";
 }
 
-constexpr int sheetHeight = 64; // pixels: the sheet is as wide as the picture, and lower to save memory
+constexpr int sheetHeight = 32; // pixels: the sheet is as wide as the picture, and lower to save memory
 
 // Unites what is nearer than that many pixels are worth.
 constexpr long pictureOverhead = 1500;
