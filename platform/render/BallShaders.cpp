@@ -149,7 +149,8 @@ flat in vec3 ballDiffuse;
 flat in vec3 ballEmission;
 flat in float lightShare;
 
-const float outlineWidth = 1.4; // pixels
+const float outlineWidth = 1.4; // pixels of a picture of 800 lines, as below
+const float outlineFocus = 692.8; // pixels to a tangent of 1 in such a picture, 60 degrees high
 const float outlineDepth = 0.75;
 
 // Leather panels, eight on a ball, every other one a little darker, with sewn seams between them: so that the
@@ -206,8 +207,9 @@ void main() {
     float inFront = clamp((ground.depth - depth) / softness + 0.5, 0.0, 1.0);
     cover *= inFront;
     // A small ball gets a thin dark outline: it stands out from a ground that is as light as itself.
-    float outline = clamp((ball.w - off) / pixel + 0.5 + outlineWidth, 0.0, 1.0) * inFront;
-    outline *= outlineDepth * (1.0 - smoothstep(16.0, 40.0, pixelsAcross));
+    float fine = max(1.0 / (outlineFocus * length(rayX.xyz)), 1.0); // of more lines
+    float outline = clamp((ball.w - off) / pixel + 0.5 + outlineWidth * fine, 0.0, 1.0) * inFront;
+    outline *= outlineDepth * (1.0 - smoothstep(16.0, 40.0, pixelsAcross / fine));
     float all = cover + (1.0 - cover) * outline;
     color = vec4(encoded(light) * cover / max(all, 1e-3), all);
 #endif

@@ -37,7 +37,8 @@ Extent groundBelow(const DrawnBall& ball, const std::optional<glm::vec4>& floor)
 
 // With room for the outline.
 PixelRect withEdge(const PixelRect& rect, const Perspective& view) {
-    constexpr int edge = 2; // pixels
+    constexpr int lines = 400; // the outline is a pixel and a half wide in pictures of 800 lines
+    const int edge = 2 + view.height / lines;
     return rect.empty() ? rect
                         : common({rect.left - edge, rect.bottom - edge, rect.right + edge, rect.top + edge},
                                  {0, 0, view.width, view.height});

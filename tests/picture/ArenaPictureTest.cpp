@@ -131,22 +131,28 @@ double luminance(QRgb pixel) {
 }
 
 TEST(ArenaPicture, FarBallsStandOutFromTheCourt) {
-    constexpr int width = 1200;
-    constexpr int height = 800;
-    for (const BallColor color : {BallColor::jack, BallColor::red, BallColor::blue}) {
+    struct Shot {
+        BallColor color;
+        int height;
+    };
+    constexpr std::array<Shot, 4> shots = {
+        {{BallColor::jack, 800}, {BallColor::red, 800}, {BallColor::blue, 800}, {BallColor::red, 2160}}};
+    for (const auto& [color, height] : shots) {
+        const int width = height * 3 / 2;
         Scene scene = makeArena();
         const Vec3 place(0.8, court::restingHeight, -11.5);
         scene.root->addChild(makeBall(color, place, PhysicsBody::Type::fixed));
         const Frame frame = makeFrame(scene, 1);
         std::string error;
         const QImage image = renderToImage(frame, width, height, Resources(), error);
-        const glm::vec4 clip = sceneView(frame, {}, static_cast<float>(width) / height).viewProjection *
-                               glm::vec4(glm::vec3(place) + glm::vec3(0, 0.015F, 0), 1);
-        const int x = static_cast<int>((clip.x / clip.w + 1) / 2 * width);
-        const int y = static_cast<int>((1 - clip.y / clip.w) / 2 * height);
-        const double ground = luminance(image.pixel(x - 20, y));
+        const glm::vec4 clip =
+            sceneView(frame, {}, static_cast<float>(width) / static_cast<float>(height)).viewProjection *
+            glm::vec4(glm::vec3(place) + glm::vec3(0, 0.015F, 0), 1);
+        const int x = static_cast<int>((clip.x / clip.w + 1) / 2 * static_cast<float>(width));
+        const int y = static_cast<int>((1 - clip.y / clip.w) / 2 * static_cast<float>(height));
+        const double ground = luminance(image.pixel(x - height / 40, y));
         double darkest = 1;
-        for (int i = 2; i < 12; ++i) {
+        for (int i = 2; i < height / 66; ++i) {
             darkest = std::min(darkest, luminance(image.pixel(x - i, y)));
         }
         EXPECT_GE(contrast(darkest, ground), 3) << "the outline and the court " << static_cast<int>(color);
