@@ -3,6 +3,7 @@
 #include "app/command_line/Demonstration.h"
 #include "app/command_line/Screenshot.h"
 #include "app/command_line/Speed.h"
+#include "app/controller/ControllerInput.h"
 #include "app/shell/NotificationCenter.h"
 #include "app/shell/QtWindowFrame.h"
 #include "app/shell/VorbelApp.h"
@@ -12,6 +13,7 @@
 #include "app/window/HeldKeys.h"
 #include "app/window/PointSize.h"
 #include "platform/audio/SdlAudio.h"
+#include "platform/controllers/SdlControllers.h"
 #include "platform/runloop/QtMainQueue.h"
 #include "platform/store/SettingsDefaults.h"
 
@@ -122,6 +124,8 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
         window->setMinimumSize(smallestWindow(window->screen()->availableSize()));
         shell.followScreen();
     });
+    SdlControllers controllers;
+    const ControllerInput controllerInput(controllers, view, *window, platform.queue);
     view.appear();
     std::optional<Demonstration> demonstration;
     if (demonstrate) {

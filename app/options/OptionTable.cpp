@@ -33,6 +33,8 @@ constexpr auto rows = std::to_array<OptionRow>({
      rests, 500},
     {Option::courtButtons, "courtButtons", "options.devices", "options.courtButtons",
      "options.courtButtons.help", offOrOn, 0},
+    {Option::controller, "controller", "options.devices", "options.controller", "options.controller.help",
+     offOrOn, 1}, // whoever presses a button of one has turned it on
     {Option::solidPanels, "solidPanels", "options.sight", "options.solidPanels", "options.solidPanels.help",
      offOrOn, 0},
     {Option::mute, "mute", "options.sound", "options.mute", "options.mute.help", offOrOn, 0},

@@ -1,4 +1,4 @@
-// Every option of the game. What none of them changes is the game as it is meant to be.
+// Every option of the game. Left as they are, they change nothing.
 #pragma once
 
 #include "l10n/TextKey.h"
@@ -17,6 +17,7 @@ enum class Option : std::uint8_t {
     switchAsks,
     switchRest,
     courtButtons,
+    controller,
     solidPanels,
     mute,
     crowdVolume,
