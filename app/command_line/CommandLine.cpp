@@ -1,5 +1,7 @@
 #include "app/command_line/CommandLine.h"
 
+#include "app/command_line/Version.h"
+
 #include <string_view>
 
 namespace vorbel {
@@ -89,7 +91,7 @@ Environment:
 }
 
 std::string CommandLine::versionText() {
-    return "vorbel " VORBEL_VERSION "\n";
+    return "vorbel " + std::string(version()) + "\n";
 }
 
 } // namespace vorbel
