@@ -31,6 +31,10 @@ private:
             result_.action = Action::showVersion;
         } else if (option == "--demo") {
             result_.action = Action::demonstrate;
+        } else if (option == "--diagnose") {
+            result_.action = Action::diagnose;
+        } else if (option == "--verbose") {
+            result_.verbose = true;
         } else if (option == "--screenshot") {
             result_.action = Action::takeScreenshot;
             takePath(option, result_.screenshot);
@@ -78,6 +82,8 @@ Usage: vorbel [OPTION]
   --screenshot FILE       draw the arena into a PNG file and exit
   --demo                  let the computer play a match against itself and exit
   --screenshots FOLDER    with --demo: leave a picture of each stage in the folder
+  --diagnose              print what a report of a problem needs: a page about game and machine, and exit
+  --verbose               tell on the console what goes into the log, and more
   --version               print the version and exit
   --help                  print this text and exit
 
