@@ -60,8 +60,8 @@ std::string environment(const char* variable) {
 
 std::string system() {
     return QSysInfo::prettyProductName().toStdString() + ", " + QSysInfo::kernelType().toStdString() + " " +
-           QSysInfo::kernelVersion().toStdString() + ", " + QSysInfo::currentCpuArchitecture().toStdString() + ", " +
-           std::to_string(std::thread::hardware_concurrency()) + " cores";
+           QSysInfo::kernelVersion().toStdString() + ", " + QSysInfo::currentCpuArchitecture().toStdString() +
+           ", " + std::to_string(std::thread::hardware_concurrency()) + " cores";
 }
 
 std::string screens() {
@@ -100,7 +100,8 @@ std::string foundResources(const Resources& resources) {
 std::string logFacts(const fs::path& folder) {
     std::error_code error;
     const auto size = fs::file_size(Log::fileIn(folder), error);
-    return withoutName(Log::fileIn(folder)) + ", " + (error ? "nothing noted" : std::to_string(size) + " bytes");
+    return withoutName(Log::fileIn(folder)) + ", " +
+           (error ? "nothing noted" : std::to_string(size) + " bytes");
 }
 
 } // namespace
@@ -116,10 +117,12 @@ bool hasDisplay() {
 
 std::string diagnosis(const Resources& resources, const Folders& folders) {
     return line("VORBEL", std::string(version())) +
-           line("Toolkit", std::string("Qt ") + qVersion() + ", made with " QT_VERSION_STR ", shown through " +
+           line("Toolkit", std::string("Qt ") + qVersion() +
+                               ", made with " QT_VERSION_STR ", shown through " +
                                QGuiApplication::platformName().toStdString()) +
            line("System", system()) +
-           line("Desktop", environment("XDG_CURRENT_DESKTOP") + ", session " + environment("XDG_SESSION_TYPE")) +
+           line("Desktop",
+                environment("XDG_CURRENT_DESKTOP") + ", session " + environment("XDG_SESSION_TYPE")) +
            line("Driver", driverFacts()) + screens() + line("Sound", soundFacts()) + controllers() +
            line("Settings", withoutName(folders.settings) + ", " + accessTo(folders.settings)) +
            line("State", withoutName(folders.state) + ", " + accessTo(folders.state)) +

@@ -42,8 +42,9 @@ void FrameTest::finish() {
                               ? QStringLiteral("without the arena")
                               : QStringLiteral("with the arena");
     const double seconds = sinceFirst_.isValid() ? static_cast<double>(sinceFirst_.elapsed()) / 1000 : 0;
-    const QString line = seconds > 0 ? QStringLiteral("%1 at %2, %3").arg(frames_ / seconds, 0, 'f', 1).arg(size, drawn)
-                                     : QStringLiteral("no frame was shown");
+    const QString line =
+        seconds > 0 ? QStringLiteral("%1 at %2, %3").arg(frames_ / seconds, 0, 'f', 1).arg(size, drawn)
+                    : QStringLiteral("no frame was shown");
     const bool written = isWritten("Frames a second: " + line.toStdString() + "\n", stdout);
     QCoreApplication::exit(written ? 0 : 1);
 }

@@ -1,7 +1,7 @@
 // What went wrong, on paper.
 #pragma once
 
-#include <QtGlobal>
+#include <QMessageLogContext>
 
 #include <filesystem>
 #include <mutex>

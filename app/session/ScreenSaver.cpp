@@ -50,8 +50,8 @@ void ScreenSaver::follow() {
 
 void ScreenSaver::hold() {
     asked_ = true;
-    const auto answer = QDBusConnection::sessionBus().asyncCall(
-        call(QStringLiteral("Inhibit"), {QStringLiteral("vorbel"), QStringLiteral("A match is being played")}));
+    const auto answer = QDBusConnection::sessionBus().asyncCall(call(
+        QStringLiteral("Inhibit"), {QStringLiteral("vorbel"), QStringLiteral("A match is being played")}));
     const auto* watcher = new QDBusPendingCallWatcher(answer, this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* finished) {
         finished->deleteLater();

@@ -30,7 +30,8 @@ std::string soundFacts() {
     const auto device = MixerDevice::open(); // as the game does
     const char* system = device ? SDL_GetCurrentAudioDriver() : nullptr;
     const bool heard = system != nullptr && std::string(system) != "dummy"; // which stands in for a device
-    return sdlVersion() + ", " + (heard ? "through " + std::string(system) + ": " + devices() : "no device is reached");
+    return sdlVersion() + ", " +
+           (heard ? "through " + std::string(system) + ": " + devices() : "no device is reached");
 }
 
 std::vector<std::string> controllerNames() {

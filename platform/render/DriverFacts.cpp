@@ -31,9 +31,10 @@ std::string driverFacts() {
         return "none";
     }
     QOpenGLFunctions& gl = *context.functions();
-    const std::string tooOld = context.format().version() < wanted.version() ? " (too old for the arena)" : "";
-    const std::string facts = (context.isOpenGLES() ? "OpenGL ES " : "OpenGL ") + named(gl, GL_VERSION) + tooOld + ", " +
-                              named(gl, GL_RENDERER) + ", " + named(gl, GL_VENDOR);
+    const std::string tooOld =
+        context.format().version() < wanted.version() ? " (too old for the arena)" : "";
+    const std::string facts = (context.isOpenGLES() ? "OpenGL ES " : "OpenGL ") + named(gl, GL_VERSION) +
+                              tooOld + ", " + named(gl, GL_RENDERER) + ", " + named(gl, GL_VENDOR);
     context.doneCurrent();
     return facts;
 }

@@ -19,7 +19,8 @@ QString page(const Program::Environment& environment = {}) {
 
 // What the page says of it; fails when it says nothing.
 std::string fact(const QString& page, const QString& name) {
-    const QRegularExpression line(QStringLiteral("^%1: (.+)$").arg(name), QRegularExpression::MultilineOption);
+    const QRegularExpression line(QStringLiteral("^%1: (.+)$").arg(name),
+                                  QRegularExpression::MultilineOption);
     const auto found = line.match(page);
     EXPECT_TRUE(found.hasMatch()) << qUtf8Printable(name) << " is not told in\n" << qUtf8Printable(page);
     return found.captured(1).toStdString();
@@ -31,12 +32,13 @@ const QString frames = QStringLiteral("Frames a second");
 
 TEST(DiagnoseTest, ItTellsOfEverythingThatAReportNeeds) {
     const QString told = page();
-    for (const char* name : {"VORBEL", "Toolkit", "System", "Desktop", "Driver", "Screen", "Sound", "Settings", "State",
-                             "Log", "Resources"}) {
+    for (const char* name : {"VORBEL", "Toolkit", "System", "Desktop", "Driver", "Screen", "Sound",
+                             "Settings", "State", "Log", "Resources"}) {
         EXPECT_FALSE(fact(told, QString::fromLatin1(name)).empty());
     }
     EXPECT_EQ(told.count(QStringLiteral("Noto Sans")), 20) << "a font for each language";
-    EXPECT_TRUE(QString::fromStdString(fact(told, QStringLiteral("Screen"))).startsWith(QStringLiteral("2560 × 1600")));
+    EXPECT_TRUE(QString::fromStdString(fact(told, QStringLiteral("Screen")))
+                    .startsWith(QStringLiteral("2560 × 1600")));
     EXPECT_GT(QString::fromStdString(fact(told, frames)).section(QLatin1Char(' '), 0, 0).toDouble(), 0);
 }
 
@@ -47,7 +49,8 @@ TEST(DiagnoseTest, ItNamesNobody) {
 }
 
 TEST(DiagnoseTest, WithoutADisplayItSaysSoAndTellsTheRest) {
-    const QString told = page({{QStringLiteral("DISPLAY"), QString()}, {QStringLiteral("QT_QPA_PLATFORM"), QString()}});
+    const QString told =
+        page({{QStringLiteral("DISPLAY"), QString()}, {QStringLiteral("QT_QPA_PLATFORM"), QString()}});
     EXPECT_EQ(fact(told, QStringLiteral("Screens")), "no display can be reached");
     EXPECT_EQ(fact(told, QStringLiteral("Driver")), "none");
     EXPECT_EQ(fact(told, frames), "not measured, no display can be reached");
@@ -55,8 +58,8 @@ TEST(DiagnoseTest, WithoutADisplayItSaysSoAndTellsTheRest) {
 }
 
 TEST(DiagnoseTest, WithoutASoundDeviceItSaysSo) {
-    const std::string sound =
-        fact(page({{QStringLiteral("SDL_AUDIODRIVER"), QStringLiteral("none-such")}}), QStringLiteral("Sound"));
+    const std::string sound = fact(page({{QStringLiteral("SDL_AUDIODRIVER"), QStringLiteral("none-such")}}),
+                                   QStringLiteral("Sound"));
     EXPECT_TRUE(sound.ends_with("no device is reached")) << sound;
 }
 

@@ -32,7 +32,9 @@ public:
             ++held_;
             return connection.send(message.createReply(QVariant::fromValue(++lastCookie_)));
         }
-        held_ -= message.member() == QLatin1String("UnInhibit") && message.arguments().value(0).toUInt() > 0 ? 1 : 0;
+        held_ -= message.member() == QLatin1String("UnInhibit") && message.arguments().value(0).toUInt() > 0
+                     ? 1
+                     : 0;
         return connection.send(message.createReply());
     }
 

@@ -23,17 +23,20 @@ protected:
     QTemporaryDir place;
 
     [[nodiscard]] Program::Environment environment() const {
-        return {{QStringLiteral("XDG_STATE_HOME"), place.path()}, {QStringLiteral("XDG_CONFIG_HOME"), place.path()}};
+        return {{QStringLiteral("XDG_STATE_HOME"), place.path()},
+                {QStringLiteral("XDG_CONFIG_HOME"), place.path()}};
     }
     [[nodiscard]] QString log() const {
         QFile file(place.filePath(QStringLiteral("vorbel/log")));
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
     static bool tellsOfABadEnd() {
-        return waitUntil([] { return alike(Desktop::instance().picture().pixelColor(60, 300), noticeGround); }, 5'000);
+        return waitUntil(
+            [] { return alike(Desktop::instance().picture().pixelColor(60, 300), noticeGround); }, 5'000);
     }
     static bool showsTheArena() {
-        return waitUntil([] { return !alike(Desktop::instance().picture().pixelColor(60, 300), noticeGround); });
+        return waitUntil(
+            [] { return !alike(Desktop::instance().picture().pixelColor(60, 300), noticeGround); });
     }
 };
 
@@ -53,7 +56,8 @@ TEST_F(SessionTest, TheEndOfTheDesktopsSessionIsAGoodEnd) {
 }
 
 TEST_F(SessionTest, ABadEndIsToldAtTheNextStartOnceAndCostsNoSettings) {
-    SettingsDefaults(place.filePath(QStringLiteral("vorbel")).toStdString()).setInteger("boccia_gamesPlayed", 7);
+    SettingsDefaults(place.filePath(QStringLiteral("vorbel")).toStdString())
+        .setInteger("boccia_gamesPlayed", 7);
     {
         Program game({}, environment());
         ASSERT_TRUE(Desktop::instance().focusGame());
@@ -83,7 +87,8 @@ TEST_F(SessionTest, OnlyOnRequestTheConsoleHearsMoreThanWhatIsGivenUp) {
         Program game(options, variables);
         ASSERT_TRUE(Desktop::instance().focusGame());
         EXPECT_TRUE(waitUntil([&] { return game.errors().contains(givenUp); }));
-        EXPECT_EQ(game.errors().count(QLatin1Char('\n')) > 1, !options.isEmpty()) << qUtf8Printable(game.errors());
+        EXPECT_EQ(game.errors().count(QLatin1Char('\n')) > 1, !options.isEmpty())
+            << qUtf8Printable(game.errors());
     }
     EXPECT_EQ(log().count(QLatin1Char('\n')), 2) << "what was given up, by each game";
     EXPECT_EQ(log().count(givenUp), 2);
