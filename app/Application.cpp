@@ -1,9 +1,18 @@
 #include "app/Application.h"
 
 #include "app/command_line/Demonstration.h"
+#include "app/command_line/Output.h"
 #include "app/command_line/Screenshot.h"
 #include "app/command_line/Speed.h"
 #include "app/controller/ControllerInput.h"
+#include "app/diagnose/Diagnosis.h"
+#include "app/diagnose/FrameTest.h"
+#include "app/session/CrashNote.h"
+#include "app/session/LastSession.h"
+#include "app/session/Log.h"
+#include "app/session/ScreenSaver.h"
+#include "app/session/StateFolder.h"
+#include "app/session/Termination.h"
 #include "app/shell/NotificationCenter.h"
 #include "app/shell/QtWindowFrame.h"
 #include "app/shell/VorbelApp.h"
@@ -81,11 +90,21 @@ private:
     HeldKeys heldKeys_;
 };
 
+void tellOfLastSession(const LastSession& last, VorbelApp& shell) {
+    const std::filesystem::path log = Log::fileIn(userStateFolder());
+    noteCrashesIn(log);
+    if (last.endedBadly()) {
+        qWarning("the last game did not come to its end");
+        shell.tellOfBadEnd(QString::fromStdString(log.string()));
+    }
+}
+
 int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     chooseGraphics();
     WindowPlatform platform;
     NotificationCenter notifications;
     const bool demonstrate = commandLine.action == CommandLine::Action::demonstrate;
+    const bool diagnose = commandLine.action == CommandLine::Action::diagnose;
     MemoryDefaults guest = Demonstration::guestDefaults(platform.defaults);
     UserDefaults& player = platform.defaults;
     if (commandLine.resetOptions) {
@@ -94,7 +113,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     if (commandLine.oneSwitch) {
         Options(player).set(Option::switchOn, 1);
     }
-    ContentView view(platform.services(), demonstrate ? guest : player);
+    ContentView view(platform.services(), demonstrate || diagnose ? guest : player);
     view.receiveNotifications(notifications);
     setDefaultFont(view.settings()->selectedLanguage());
     VorbelApp shell(*view.settings(), notifications);
@@ -114,7 +133,8 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Vorbel/qml/window/Main.qml")));
     auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
     if (window == nullptr) {
-        return EXIT_FAILURE; // the engine has said why
+        qCritical("the window could not be made; the log says why");
+        return EXIT_FAILURE;
     }
     prepareWindow(*window);
     view.oneSwitch()->setWindow(*window);
@@ -126,18 +146,44 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     });
     SdlControllers controllers;
     const ControllerInput controllerInput(controllers, view, *window, platform.queue);
+    const ScreenSaver screenSaver(view);
+    std::optional<LastSession> lastSession;
+    if (commandLine.action == CommandLine::Action::play) {
+        tellOfLastSession(lastSession.emplace(userStateFolder()), shell);
+    }
     view.appear();
     std::optional<Demonstration> demonstration;
     if (demonstrate) {
         demonstration.emplace(view, platform.queue, *window, commandLine.screenshotsFolder);
     }
+    std::optional<FrameTest> frameTest;
+    if (diagnose) {
+        frameTest.emplace(view, *window);
+    }
     return application.exec();
+}
+
+int runDiagnosis(QGuiApplication& application, const CommandLine& commandLine) {
+    const Resources resources = Resources::forProgram(QCoreApplication::applicationFilePath().toStdString());
+    std::string page = diagnosis(resources, {SettingsDefaults::userFolder(), userStateFolder()});
+    if (!hasDisplay()) {
+        page += "Frames a second: not measured, no display can be reached\n";
+    }
+    const bool written = isWritten(page, stdout);
+    return written && hasDisplay() ? runWindow(application, commandLine)
+           : written               ? EXIT_SUCCESS
+                                   : EXIT_FAILURE;
 }
 
 } // namespace
 
 int runApplication(int argc, char** argv, const CommandLine& commandLine) {
     configureMemory();
+    const Log log(userStateFolder(), commandLine.verbose);
+    const bool diagnose = commandLine.action == CommandLine::Action::diagnose;
+    if (diagnose) {
+        allowNoDisplay();
+    }
     std::optional<DisplayGuard> guard(std::in_place);
     int programNameOnly = std::min(argc, 1);
     KeyJudgingApplication application(programNameOnly, argv);
@@ -146,6 +192,10 @@ int runApplication(int argc, char** argv, const CommandLine& commandLine) {
     QGuiApplication::setApplicationDisplayName(QStringLiteral("VORBEL"));
     QGuiApplication::setDesktopFileName(QStringLiteral("vorbel"));
     prepareFonts();
+    const Termination termination;
+    if (diagnose) {
+        return runDiagnosis(application, commandLine);
+    }
     if (commandLine.action == CommandLine::Action::takeScreenshot) {
         return takeScreenshot(commandLine.screenshot);
     }

@@ -149,6 +149,7 @@ inline constexpr auto pageKeys = std::to_array<std::string_view>({
     "end.equidistant.format",
     "hud.tournament.format",
     "about.pages",
+    "notice.endedBadly.format",
 
     "page.boccia.title",
     "page.boccia.text",

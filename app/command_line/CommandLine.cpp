@@ -1,5 +1,7 @@
 #include "app/command_line/CommandLine.h"
 
+#include "app/command_line/Version.h"
+
 #include <string_view>
 
 namespace vorbel {
@@ -33,6 +35,10 @@ private:
             result_.resetOptions = true;
         } else if (option == "--one-switch") {
             result_.oneSwitch = true;
+        } else if (option == "--diagnose") {
+            result_.action = Action::diagnose;
+        } else if (option == "--verbose") {
+            result_.verbose = true;
         } else if (option == "--screenshot") {
             result_.action = Action::takeScreenshot;
             takePath(option, result_.screenshot);
@@ -82,6 +88,8 @@ Usage: vorbel [OPTION]
   --screenshots FOLDER    with --demo: leave a picture of each stage in the folder
   --one-switch            turn on playing with one switch
   --reset-options         start with every option as in a new game
+  --diagnose              print what a report of a problem needs: a page about game and machine, and exit
+  --verbose               tell on the console what goes into the log, and more
   --version               print the version and exit
   --help                  print this text and exit
 
@@ -95,7 +103,7 @@ Environment:
 }
 
 std::string CommandLine::versionText() {
-    return "vorbel " VORBEL_VERSION "\n";
+    return "vorbel " + std::string(version()) + "\n";
 }
 
 } // namespace vorbel

@@ -1,5 +1,6 @@
 #include "app/menu/MenuModel.h"
 
+#include "app/command_line/Version.h"
 #include "app/menu/OpenMenu.h"
 #include "app/settings/PlayerSettings.h"
 #include "app/text/Fonts.h"
@@ -43,6 +44,10 @@ bool MenuModel::rightToLeft() const {
 QUrl MenuModel::logo() const {
     const auto file = resources_.find("Logo", "png");
     return file ? QUrl::fromLocalFile(QString::fromStdString(file->string())) : QUrl();
+}
+QString MenuModel::nameAndVersion() {
+    const std::string_view number = version();
+    return QStringLiteral("VORBEL ") + QString::fromUtf8(number.data(), qsizetype(number.size()));
 }
 QUrl MenuModel::pages() const {
     const std::string name = "pages/" + std::string(rawValue(settings_.selectedLanguage()));

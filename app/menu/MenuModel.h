@@ -31,6 +31,7 @@ class MenuModel : public QObject {
     Q_PROPERTY(bool open READ isOpen NOTIFY screenChanged FINAL)
     Q_PROPERTY(bool rightToLeft READ rightToLeft NOTIFY languageChanged FINAL)
     Q_PROPERTY(QUrl logo READ logo CONSTANT FINAL)
+    Q_PROPERTY(QString nameAndVersion READ nameAndVersion CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuTexts* texts READ texts CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuChoices* choices READ choices CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuCareer* career READ career CONSTANT FINAL)
@@ -48,7 +49,8 @@ public:
     [[nodiscard]] Screen screen() const;
     [[nodiscard]] bool isOpen() const;
     [[nodiscard]] bool rightToLeft() const;
-    [[nodiscard]] QUrl logo() const;  // empty when the picture is missing
+    [[nodiscard]] QUrl logo() const;               // empty when the picture is missing
+    [[nodiscard]] static QString nameAndVersion(); // of the game: the same in every language
     [[nodiscard]] QUrl pages() const; // the game's own, in the player's language; empty when missing
     [[nodiscard]] MenuTexts* texts() { return &texts_; }
     [[nodiscard]] MenuChoices* choices() { return &choices_; }

@@ -69,8 +69,12 @@ void QtWindowFrame::setStyle(const WindowStyle& style) {
     }
 }
 
+// Where a client may not place its windows, the desktop gives back the former size with the former state, if nobody
+// has changed the size meanwhile.
 void QtWindowFrame::setFrame(const QRect& frame) {
-    window_.setGeometry(frame);
+    if (clientPlacesWindows()) {
+        window_.setGeometry(frame);
+    }
 }
 
 } // namespace vorbel

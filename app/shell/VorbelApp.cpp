@@ -15,6 +15,7 @@ VorbelApp::VorbelApp(const PlayerSettings& settings, const NotificationCenter& n
     connect(&settings, &PlayerSettings::languageChanged, this, [this, &settings] {
         language_ = settings.selectedLanguage();
         emit languageChanged();
+        emit noticeChanged();
     });
 }
 
@@ -36,6 +37,24 @@ QString VorbelApp::toggleFullScreenTitle() const {
 
 QString VorbelApp::optionsTitle() const {
     return text("menu.options", language_);
+}
+
+QString VorbelApp::closeNoticeTitle() const {
+    return text("menu.back", language_);
+}
+
+QString VorbelApp::notice() const {
+    return logOfBadEnd_.isEmpty() ? QString()
+                                  : text("notice.endedBadly.format", language_, {logOfBadEnd_.toStdString()});
+}
+
+void VorbelApp::tellOfBadEnd(const QString& log) {
+    logOfBadEnd_ = log;
+    emit noticeChanged();
+}
+
+void VorbelApp::closeNotice() {
+    tellOfBadEnd(QString());
 }
 
 bool VorbelApp::rightToLeft() const {

@@ -32,6 +32,8 @@ class VorbelApp final : public QObject {
     Q_PROPERTY(QVariantList fullScreenKeys READ fullScreenKeys CONSTANT FINAL)
     Q_PROPERTY(QString newGameKeysShown READ newGameKeysShown CONSTANT FINAL)
     Q_PROPERTY(QString fullScreenKeysShown READ fullScreenKeysShown CONSTANT FINAL)
+    Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged FINAL)
+    Q_PROPERTY(QString closeNoticeTitle READ closeNoticeTitle NOTIFY languageChanged FINAL)
     Q_PROPERTY(bool inFullScreen READ inFullScreen NOTIFY inFullScreenChanged FINAL)
 
 public:
@@ -57,6 +59,13 @@ public:
     [[nodiscard]] static QString fullScreenKeysShown();
     [[nodiscard]] bool inFullScreen() const { return fullScreen_.isOn(); }
 
+    // What the player is told over everything else, once; empty: nothing.
+    [[nodiscard]] QString notice() const;
+    [[nodiscard]] QString closeNoticeTitle() const;
+    // The last game did not come to its end; the log has what is known of that.
+    void tellOfBadEnd(const QString& log);
+    Q_INVOKABLE void closeNotice();
+
     Q_INVOKABLE void requestNewGame();
     Q_INVOKABLE void requestRules();
     Q_INVOKABLE void requestAbout();
@@ -67,10 +76,12 @@ public:
 signals:
     void languageChanged();
     void inFullScreenChanged();
+    void noticeChanged();
 
 private:
     const NotificationCenter& notifications_;
     AppLanguage language_;
+    QString logOfBadEnd_; // empty: there is nothing to tell
     FullScreen fullScreen_;
     WindowFrame* window_ = nullptr;
 };

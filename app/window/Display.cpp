@@ -9,7 +9,6 @@
 #include <QSurfaceFormat>
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 
 namespace vorbel {
@@ -20,6 +19,11 @@ namespace {
 QStringList& warnings() {
     static QStringList all;
     return all;
+}
+
+QtMessageHandler& formerHandler() {
+    static QtMessageHandler former = nullptr;
+    return former;
 }
 
 // In the words of the X11 and of the Wayland plug-in.
@@ -39,7 +43,8 @@ QString reasonToEnd(const QString& lastWord) {
 
 void endWhenStartFails(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type == QtFatalMsg) {
-        std::fprintf(stderr, "vorbel: %s\n", qUtf8Printable(reasonToEnd(message)));
+        qInstallMessageHandler(formerHandler());
+        qCritical("%s", qUtf8Printable(reasonToEnd(message)));
         std::_Exit(EXIT_FAILURE);
     }
     warnings().append(message);
@@ -68,11 +73,11 @@ bool canDraw(const QSurfaceFormat& wanted) {
 } // namespace
 
 DisplayGuard::DisplayGuard() {
-    qInstallMessageHandler(endWhenStartFails);
+    formerHandler() = qInstallMessageHandler(endWhenStartFails);
 }
 
 DisplayGuard::~DisplayGuard() {
-    qInstallMessageHandler(nullptr);
+    qInstallMessageHandler(formerHandler());
     warnings().clear();
 }
 

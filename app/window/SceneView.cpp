@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 
 namespace vorbel {
 
@@ -99,7 +98,7 @@ double SceneView::tickFraction() const {
 
 void SceneView::report(const QString& problem) {
     if (std::exchange(problem_, problem) != problem) {
-        std::fprintf(stderr, "vorbel: %s\n", qUtf8Printable(problem));
+        qCritical("%s", qUtf8Printable(problem));
         emit problemChanged();
     }
 }

@@ -9,6 +9,8 @@ inline constexpr auto ar = std::to_array<Text>({
     {"end.equidistant.format", "كرات على المسافة نفسها! الأحمر \u2066+%@\u2069، الأزرق \u2066+%@\u2069."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "صفحات اللعبة"},
+    {"notice.endedBadly.format",
+     "توقفت اللعبة بشكل غير متوقع في المرة الماضية. ما يُعرف عن ذلك مسجّل في هذا الملف:\n%@"},
 
     {"page.boccia.title", "ما البوتشيا؟"},
     {"page.boccia.text", "البوتشيا رياضة تقوم على دقة التصويب، وهي ضمن الألعاب البارالمبية منذ عام 1984، "

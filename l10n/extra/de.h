@@ -9,6 +9,8 @@ inline constexpr auto de = std::to_array<Text>({
     {"end.equidistant.format", "Gleicher Abstand! Rot +%@, Blau +%@."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "Die Seiten zum Spiel"},
+    {"notice.endedBadly.format", "Das Spiel ist beim letzten Mal unerwartet abgebrochen. Was darüber bekannt "
+                                 "ist, steht in dieser Datei:\n%@"},
 
     {"page.boccia.title", "Was ist Boccia?"},
     {"page.boccia.text",

@@ -9,6 +9,8 @@ inline constexpr auto en = std::to_array<Text>({
     {"end.equidistant.format", "Red +%@, Blue +%@"},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "The game's pages"},
+    {"notice.endedBadly.format",
+     "The game ended unexpectedly last time. What is known about it is in this file:\n%@"},
 
     {"page.boccia.title", "What is boccia?"},
     {"page.boccia.text", "Boccia is a sport of precision, Paralympic since 1984, that athletes with severe "

@@ -9,6 +9,8 @@ inline constexpr auto es = std::to_array<Text>({
     {"end.equidistant.format", "¡Bolas equidistantes! Rojo +%@, Azul +%@."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "Las páginas del juego"},
+    {"notice.endedBadly.format",
+     "La última vez el juego terminó de forma inesperada. Lo que se sabe está en este archivo:\n%@"},
 
     {"page.boccia.title", "¿Qué es la boccia?"},
     {"page.boccia.text",

@@ -9,6 +9,8 @@ inline constexpr auto fr = std::to_array<Text>({
     {"end.equidistant.format", "Balles à égale distance ! Rouge +%@, Bleu +%@."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "Les pages du jeu"},
+    {"notice.endedBadly.format", "La dernière fois, le jeu s’est arrêté de façon inattendue. Ce que l’on en "
+                                 "sait se trouve dans ce fichier :\n%@"},
 
     {"page.boccia.title", "Qu’est-ce que la boccia ?"},
     {"page.boccia.text",

@@ -9,6 +9,7 @@ inline constexpr auto hi = std::to_array<Text>({
     {"end.equidistant.format", "बराबर दूरी! लाल टीम +%@, नीली टीम +%@।"},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "गेम के पेज"},
+    {"notice.endedBadly.format", "पिछली बार गेम अचानक बंद हो गया था। इसके बारे में जो पता है, वह इस फ़ाइल में है:\n%@"},
 
     {"page.boccia.title", "बोचिया क्या है?"},
     {"page.boccia.text",

@@ -9,6 +9,8 @@ inline constexpr auto id = std::to_array<Text>({
     {"end.equidistant.format", "Jarak sama! Merah +%@, Biru +%@."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "Halaman permainan"},
+    {"notice.endedBadly.format",
+     "Terakhir kali permainan berhenti secara tak terduga. Yang diketahui tentangnya ada di berkas ini:\n%@"},
 
     {"page.boccia.title", "Apa itu boccia?"},
     {"page.boccia.text",

@@ -9,6 +9,8 @@ inline constexpr auto ja = std::to_array<Text>({
     {"end.equidistant.format", "同じ距離です！赤+%@、青+%@。"},
     {"hud.tournament.format", "%@ %@（全%@ラウンド）・%@（%@）"},
     {"about.pages", "ゲームのページ"},
+    {"notice.endedBadly.format",
+     "前回、ゲームが予期せず終了しました。わかっていることは次のファイルに記録されています。\n%@"},
 
     {"page.boccia.title", "ボッチャとは"},
     {"page.boccia.text", "ボッチャは正確さを競うスポーツで、1984年からパラリンピックの正式競技です。重い障が"

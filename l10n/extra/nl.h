@@ -9,6 +9,8 @@ inline constexpr auto nl = std::to_array<Text>({
     {"end.equidistant.format", "Ballen op gelijke afstand! Rood +%@, Blauw +%@."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "De pagina’s van het spel"},
+    {"notice.endedBadly.format",
+     "De vorige keer is het spel onverwacht gestopt. Wat daarover bekend is, staat in dit bestand:\n%@"},
 
     {"page.boccia.title", "Wat is boccia?"},
     {"page.boccia.text", "Boccia is een precisiesport, paralympisch sinds 1984, die sporters met ernstige "

@@ -9,6 +9,8 @@ inline constexpr auto pt = std::to_array<Text>({
     {"end.equidistant.format", "Bolas equidistantes! Vermelho +%@, Azul +%@."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "As páginas do jogo"},
+    {"notice.endedBadly.format",
+     "Na última vez, o jogo foi encerrado inesperadamente. O que se sabe está neste arquivo:\n%@"},
 
     {"page.boccia.title", "O que é a bocha paralímpica?"},
     {"page.boccia.text",

@@ -9,6 +9,8 @@ inline constexpr auto ru = std::to_array<Text>({
     {"end.equidistant.format", "Равноудалённые мячи! Красные +%@, Синие +%@."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "Страницы игры"},
+    {"notice.endedBadly.format",
+     "В прошлый раз игра неожиданно завершилась. Что об этом известно, записано в файле:\n%@"},
 
     {"page.boccia.title", "Что такое бочча"},
     {"page.boccia.text",

@@ -9,6 +9,7 @@ inline constexpr auto th = std::to_array<Text>({
     {"end.equidistant.format", "ระยะเท่ากัน! ฝ่ายแดง +%@ ฝ่ายน้ำเงิน +%@"},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "หน้าเว็บของเกม"},
+    {"notice.endedBadly.format", "ครั้งที่แล้วเกมหยุดทำงานโดยไม่คาดคิด สิ่งที่ทราบอยู่ในไฟล์นี้:\n%@"},
 
     {"page.boccia.title", "บอคเซียคืออะไร"},
     {"page.boccia.text",

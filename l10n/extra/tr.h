@@ -9,6 +9,8 @@ inline constexpr auto tr = std::to_array<Text>({
     {"end.equidistant.format", "Eşit uzaklık! Kırmızı +%@, Mavi +%@."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "Oyunun sayfaları"},
+    {"notice.endedBadly.format",
+     "Oyun geçen sefer beklenmedik şekilde kapandı. Bununla ilgili bilinenler şu dosyada:\n%@"},
 
     {"page.boccia.title", "Boccia nedir?"},
     {"page.boccia.text",

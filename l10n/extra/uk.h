@@ -9,6 +9,8 @@ inline constexpr auto uk = std::to_array<Text>({
     {"end.equidistant.format", "М’ячі на однаковій відстані! Червоні +%@, Сині +%@."},
     {"hud.tournament.format", "%@ %@/%@ · %@ (%@)"},
     {"about.pages", "Сторінки гри"},
+    {"notice.endedBadly.format",
+     "Минулого разу гра несподівано завершилася. Що про це відомо, записано у файлі:\n%@"},
 
     {"page.boccia.title", "Що таке бочча?"},
     {"page.boccia.text",

@@ -9,6 +9,8 @@ inline constexpr auto vi = std::to_array<Text>({
     {"end.equidistant.format", "Bóng cách đều! Đỏ +%@, Xanh +%@."},
     {"hud.tournament.format", "%@ %@ (trong %@ vòng) · %@ (%@)"},
     {"about.pages", "Trang của trò chơi"},
+    {"notice.endedBadly.format",
+     "Lần trước trò chơi đã kết thúc đột ngột. Những gì biết được nằm trong tệp này:\n%@"},
 
     {"page.boccia.title", "Boccia là gì?"},
     {"page.boccia.text", "Boccia là môn thể thao đòi hỏi sự chính xác, có mặt ở Paralympic từ năm 1984, dành "

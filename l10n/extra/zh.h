@@ -9,6 +9,7 @@ inline constexpr auto zh = std::to_array<Text>({
     {"end.equidistant.format", "距离相等！红方+%@，蓝方+%@。"},
     {"hud.tournament.format", "%@ %@（共%@轮） · %@（%@）"},
     {"about.pages", "游戏网页"},
+    {"notice.endedBadly.format", "上次游戏意外退出。相关记录在此文件中：\n%@"},
 
     {"page.boccia.title", "什么是硬地滚球？"},
     {"page.boccia.text", "硬地滚球是一项讲求精准的运动，1984年成为残奥会项目，由重度障碍的运动员坐在轮椅上进"

@@ -15,7 +15,7 @@ Resources Resources::forProgram(const fs::path& executable) {
         return Resources({fs::path(chosen)});
     }
     const fs::path folder = executable.parent_path();
-    return Resources({folder / "resources", folder.parent_path() / "share" / "vorbel"});
+    return Resources({folder / "resources", (folder / VORBEL_DATA_FOLDER).lexically_normal()});
 }
 
 std::optional<fs::path> Resources::find(std::string_view name, std::string_view extension) const {

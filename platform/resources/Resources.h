@@ -14,7 +14,7 @@ public:
     explicit Resources(std::vector<std::filesystem::path> folders = {});
 
     // The folder that the environment variable VORBEL_RESOURCES names, and no other; where it is not set,
-    // `resources/` beside the program, where a build has it, then `share/vorbel` of its install prefix.
+    // `resources/` beside the program, where a build has it, then the folder that they are installed to.
     [[nodiscard]] static Resources forProgram(const std::filesystem::path& executable);
 
     // The first readable file `name.extension`; none when it is missing everywhere.

@@ -14,7 +14,7 @@ LIBRARIES = {
     "GoogleTest": r"(gtest|gmock)/.*",
     "RapidCheck": r"rapidcheck(/.*|\.h)",
     "Google Benchmark": r"benchmark/.*",
-    "POSIX": r"(sys/\w+|arpa/\w+|netinet/\w+|dirent|dlfcn|fcntl|malloc|poll|pthread|pwd|spawn|unistd)\.h",
+    "POSIX": r"(sys/\w+|arpa/\w+|netinet/\w+|dirent|dlfcn|execinfo|fcntl|malloc|poll|pthread|pwd|spawn|unistd)\.h",
 }
 
 STANDARD = set(

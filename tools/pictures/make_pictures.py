@@ -44,9 +44,9 @@ SPECTATORS = [
 # Picture name, what draws it, output files with their widths in pixels.
 MARKS = [
     ("Logo", logo.draw, {"Logo.png": 640}),
-    ("Icon", icon.draw, {f"Icon{s}.png": s for s in (32, 48, 64, 128, 256)}),
+    ("Icon", icon.draw, {f"Icon{s}.png": s for s in (32, 48, 64, 96, 128, 256, 512)}),
     ("Icon16", icon.draw16, {"Icon16.png": 16}),
-    ("Icon22", icon.draw22, {"Icon22.png": 22}),
+    ("Icon22", icon.draw22, {"Icon22.png": 22, "Icon24.png": 24}),
 ]
 
 BLEED = 40  # pixels to which edge colours spread into the transparent surround

@@ -13,7 +13,11 @@ MenuBackdrop {
     }
     ScrollingText {
         text: screen.menu.texts.aboutText
-        maximumHeight: screen.availableHeight - 190
+        maximumHeight: screen.availableHeight - 220
+        Layout.alignment: Qt.AlignHCenter
+    }
+    Label {
+        text: screen.menu.nameAndVersion
         Layout.alignment: Qt.AlignHCenter
     }
     LinkButton {

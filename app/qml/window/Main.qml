@@ -50,9 +50,21 @@ Window {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
         }
+        Notice {
+            id: notice
+            anchors.fill: parent
+            z: 1
+            text: window.shell.notice
+            closeTitle: window.shell.closeNoticeTitle
+            onCloseRequested: {
+                window.shell.closeNotice();
+                game.forceActiveFocus(Qt.TabFocusReason);
+            }
+        }
         // Remembers which of its controls has the keyboard while the game menu has it.
         FocusScope {
             id: game
+            enabled: !notice.visible
             anchors { fill: parent; topMargin: gameMenu.coveredHeight }
 
             Hud {

@@ -5,11 +5,16 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <csignal>
+
+#include <sys/types.h>
+
 namespace vorbel {
 
 Program::Program(const QStringList& arguments, const Environment& environment) {
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     variables.insert(QStringLiteral("XDG_CONFIG_HOME"), home_.path());
+    variables.insert(QStringLiteral("XDG_STATE_HOME"), home_.path());
     variables.insert(QStringLiteral("SDL_AUDIODRIVER"), QStringLiteral("dummy"));
     for (const auto& [name, value] : environment) {
         value.isEmpty() ? variables.remove(name) : variables.insert(name, value);
@@ -34,6 +39,10 @@ std::optional<int> Program::status(int milliseconds) {
         return std::nullopt;
     }
     return process_.exitStatus() == QProcess::NormalExit ? std::optional(process_.exitCode()) : std::nullopt;
+}
+
+void Program::signal(int number) const {
+    kill(static_cast<pid_t>(process_.processId()), number);
 }
 
 int Program::residentMegabytes() const {

@@ -11,7 +11,7 @@
 
 namespace vorbel {
 
-// A process of its own with a settings folder of its own, ended with this object.
+// A process of its own with folders of its own for settings and state, ended with this object.
 class Program {
 public:
     using Environment = std::map<QString, QString>; // an empty value removes the variable
@@ -22,6 +22,8 @@ public:
     Program& operator=(const Program&) = delete;
 
     [[nodiscard]] bool isRunning() const { return process_.state() == QProcess::Running; }
+
+    void signal(int number) const; // sends it to the process
 
     [[nodiscard]] int residentMegabytes() const; // 0 once it has ended
 

@@ -1,4 +1,5 @@
 // What each control of the menu does, and where it leads.
+#include "app/command_line/CommandLine.h"
 #include "app/text/Texts.h"
 #include "career/Diary.h"
 #include "tests/unit/app/ViewFixture.h"
@@ -232,6 +233,12 @@ TEST_F(MenuTest, AllTextsFollowTheLanguageAtOnce) {
     EXPECT_FALSE(menu.rightToLeft());
     menu.choices()->setLanguageIndex(static_cast<int>(AppLanguage::ar));
     EXPECT_TRUE(menu.rightToLeft());
+}
+
+TEST_F(MenuTest, ItTellsTheVersionThatTheProgramTells) {
+    EXPECT_EQ("vorbel " + MenuModel::nameAndVersion().section(QLatin1Char(' '), 1).toStdString() + "\n",
+              CommandLine::versionText());
+    EXPECT_TRUE(MenuModel::nameAndVersion().startsWith(QStringLiteral("VORBEL ")));
 }
 
 TEST_F(MenuTest, AnArabicTextThatBeginsWithALatinNameIsStillLaidOutFromTheRight) {

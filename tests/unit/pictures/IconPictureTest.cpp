@@ -13,7 +13,7 @@ TEST_P(IconPictureTest, ItHasTheSizeThatItIsNamedAfter) {
     EXPECT_EQ(icon.size(), QSize(GetParam(), GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, IconPictureTest, testing::Values(16, 22, 32, 48, 64, 128, 256));
+INSTANTIATE_TEST_SUITE_P(All, IconPictureTest, testing::Values(16, 22, 24, 32, 48, 64, 96, 128, 256, 512));
 
 TEST(ScalableIcon, DoesWithoutWhatNotEveryDesktopDraws) {
     QFile file(QStringLiteral(VORBEL_PICTURES "/pictures/Icon.svg"));
