@@ -96,8 +96,8 @@ TEST_F(ControllerInputTest, MenusAreWalkedThroughAndPressed) {
 }
 
 TEST_F(ControllerInputTest, BackGoesBackFromEveryScreenThatHasAWayBack) {
-    for (const MenuScreen screen :
-         {MenuScreen::country, MenuScreen::bcClass, MenuScreen::rules, MenuScreen::about, MenuScreen::diary}) {
+    for (const MenuScreen screen : {MenuScreen::country, MenuScreen::bcClass, MenuScreen::rules,
+                                    MenuScreen::about, MenuScreen::diary}) {
         openMenu.setMenuScreen(screen);
         press(ControllerButton::back);
         EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
