@@ -145,7 +145,9 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
         shell.followScreen();
     });
     SdlControllers controllers;
-    const ControllerInput controllerInput(controllers, view, *window, platform.queue);
+    const ControllerInput controllerInput(controllers, view, platform.queue);
+    QObject::connect(&controllerInput, &ControllerInput::keyPressed, window,
+                     [window](Qt::Key key) { sendKey(*window, key); });
     const ScreenSaver screenSaver(view);
     std::optional<LastSession> lastSession;
     if (commandLine.action == CommandLine::Action::play) {

@@ -16,9 +16,8 @@ bool isDirection(ControllerButton button) {
 
 } // namespace
 
-ControllerInput::ControllerInput(Controllers& controllers, ContentView& view, QWindow& window,
-                                 MainQueue& queue)
-    : controllers_(controllers), view_(view), window_(window), queue_(queue) {
+ControllerInput::ControllerInput(Controllers& controllers, ContentView& view, MainQueue& queue)
+    : controllers_(controllers), view_(view), queue_(queue) {
     look();
 }
 
@@ -86,15 +85,15 @@ void ControllerInput::pressInMatch(ControllerButton button) {
 void ControllerInput::pressInMenu(ControllerButton button) {
     switch (button) {
     case ControllerButton::accept:
-        return sendKey(Qt::Key_Return);
+        return emit keyPressed(Qt::Key_Return);
     case ControllerButton::back:
         return goBack();
     case ControllerButton::left:
     case ControllerButton::up:
-        return sendKey(Qt::Key_Backtab);
+        return emit keyPressed(Qt::Key_Backtab);
     case ControllerButton::right:
     case ControllerButton::down:
-        return sendKey(Qt::Key_Tab);
+        return emit keyPressed(Qt::Key_Tab);
     case ControllerButton::menu:
     case ControllerButton::other:
         return;
@@ -116,11 +115,11 @@ void ControllerInput::goBack() {
     }
 }
 
-void ControllerInput::sendKey(Qt::Key key) {
+void sendKey(QWindow& window, Qt::Key key) {
     const auto modifiers = key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier;
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(type, key, modifiers);
-        QCoreApplication::sendEvent(&window_, &event);
+        QCoreApplication::sendEvent(&window, &event);
     }
 }
 

@@ -29,8 +29,11 @@ public:
     static constexpr double repeatDelay = 0.5; // s, of a held direction
     static constexpr double repeatPeriod = 0.12;
 
-    // All four must outlive it.
-    ControllerInput(Controllers& controllers, ContentView& view, QWindow& window, MainQueue& queue);
+    // All three must outlive it.
+    ControllerInput(Controllers& controllers, ContentView& view, MainQueue& queue);
+
+signals:
+    void keyPressed(Qt::Key key); // in a menu: this key would do the same
 
 private:
     void look();
@@ -40,15 +43,16 @@ private:
     void pressInMatch(ControllerButton button);
     void pressInMenu(ControllerButton button);
     void goBack();
-    void sendKey(Qt::Key key);
 
     Controllers& controllers_;
     ContentView& view_;
-    QWindow& window_;
     MainQueue& queue_;
     std::optional<ControllerButton> held_; // a direction
     double untilRepeat_ = 0;               // s
     Lifetime lifetime_;
 };
+
+// The key, pressed and let go, for whatever has the focus in the window.
+void sendKey(QWindow& window, Qt::Key key);
 
 } // namespace vorbel

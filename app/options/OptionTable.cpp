@@ -42,6 +42,8 @@ constexpr auto rows = std::to_array<OptionRow>({
      volumes, 100},
     {Option::effectVolume, "effectVolume", "options.sound", "options.effectVolume",
      "options.effectVolume.help", volumes, 100},
+    {Option::soundNotes, "soundNotes", "options.sound", "options.soundNotes", "options.soundNotes.help",
+     offOrOn, 0},
     {Option::menuPauses, "menuPauses", "options.rest", "options.menuPauses", "options.menuPauses.help",
      offOrOn, 0},
     {Option::askToLeave, "askToLeave", "options.rest", "options.askToLeave", "options.askToLeave.help",

@@ -22,6 +22,7 @@ enum class Option : std::uint8_t {
     mute,
     crowdVolume,
     effectVolume,
+    soundNotes,
     menuPauses,
     askToLeave,
 };

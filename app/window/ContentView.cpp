@@ -29,6 +29,7 @@ ContentView::ContentView(const Platform& platform, UserDefaults& defaults)
       settings_(gameLogic_, platform.mainQueue, defaults),
       options_(defaults),
       soundOptions_(audio_, options_),
+      soundNotes_(audio_, options_, settings_, platform.mainQueue),
       leaving_(gameLogic_, options_, settings_, openMenu_),
       matchOptions_(gameLogic_, options_, openMenu_),
       oneSwitch_(gameLogic_, options_, openMenu_, settings_, platform.mainQueue),

@@ -9,6 +9,7 @@
 #include "app/options/LeaveQuestion.h"
 #include "app/options/MatchOptions.h"
 #include "app/options/Options.h"
+#include "app/options/SoundNotes.h"
 #include "app/options/SoundOptions.h"
 #include "app/settings/PlayerSettings.h"
 #include "app/switch/OneSwitch.h"
@@ -37,6 +38,7 @@ class ContentView final : public QObject {
     Q_PROPERTY(vorbel::Keyboard* keyboard READ keyboard CONSTANT FINAL)
     Q_PROPERTY(vorbel::HudModel* hud READ hud CONSTANT FINAL)
     Q_PROPERTY(vorbel::Options* options READ options CONSTANT FINAL)
+    Q_PROPERTY(vorbel::SoundNotes* soundNotes READ soundNotes CONSTANT FINAL)
     Q_PROPERTY(vorbel::LeaveQuestion* leaving READ leaving CONSTANT FINAL)
     Q_PROPERTY(vorbel::OneSwitch* oneSwitch READ oneSwitch CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuModel* menu READ menu CONSTANT FINAL)
@@ -60,6 +62,7 @@ public:
     [[nodiscard]] Keyboard* keyboard() { return &keyboard_; }
     [[nodiscard]] HudModel* hud() { return &hud_; }
     [[nodiscard]] Options* options() { return &options_; }
+    [[nodiscard]] SoundNotes* soundNotes() { return &soundNotes_; }
     [[nodiscard]] LeaveQuestion* leaving() { return &leaving_; }
     [[nodiscard]] OneSwitch* oneSwitch() { return &oneSwitch_; }
     [[nodiscard]] MenuModel* menu() { return &menu_; }
@@ -74,6 +77,7 @@ private:
     PlayerSettings settings_;
     Options options_;
     SoundOptions soundOptions_;
+    SoundNotes soundNotes_;
     OpenMenu openMenu_;
     LeaveQuestion leaving_;
     MatchOptions matchOptions_;

@@ -1,14 +1,15 @@
 #include "platform/audio/AdjustableAudio.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 namespace vorbel {
 
 class AdjustableAudio::Sound final : public SystemSound {
 public:
-    Sound(AdjustableAudio& owner, std::unique_ptr<SystemSound> sound)
-        : owner_(owner), sound_(std::move(sound)) {
+    Sound(AdjustableAudio& owner, std::string_view name, std::unique_ptr<SystemSound> sound)
+        : owner_(owner), name_(name), sound_(std::move(sound)) {
         owner_.sounds_.push_back(this);
         follow();
     }
@@ -16,7 +17,10 @@ public:
     Sound& operator=(const Sound&) = delete;
     ~Sound() override { std::erase(owner_.sounds_, this); }
 
-    void play() override { sound_->play(); }
+    void play() override {
+        sound_->play();
+        owner_.played_.tell(name_);
+    }
     void stop() override { sound_->stop(); }
     void setVolume(float volume) override {
         volume_ = volume;
@@ -26,6 +30,7 @@ public:
 
 private:
     AdjustableAudio& owner_;
+    std::string name_;
     std::unique_ptr<SystemSound> sound_;
     float volume_ = 1;
 };
@@ -57,7 +62,7 @@ private:
 
 std::unique_ptr<SystemSound> AdjustableAudio::systemSound(std::string_view name) {
     auto sound = audio_.systemSound(name);
-    return sound ? std::make_unique<Sound>(*this, std::move(sound)) : nullptr;
+    return sound ? std::make_unique<Sound>(*this, name, std::move(sound)) : nullptr;
 }
 
 std::unique_ptr<AudioPlayer> AdjustableAudio::player(const std::filesystem::path& file) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/audio/Audio.h"
+#include "platform/runloop/Observers.h"
 
 #include <vector>
 
@@ -17,6 +18,11 @@ public:
     [[nodiscard]] std::unique_ptr<SystemSound> systemSound(std::string_view name) override;
     [[nodiscard]] std::unique_ptr<AudioPlayer> player(const std::filesystem::path& file) override;
 
+    // Calls the observer with the name of each effect that begins to sound, however loud.
+    [[nodiscard]] Subscription onSound(std::function<void(std::string_view)> observer) {
+        return played_.add(std::move(observer));
+    }
+
     void setSoundVolume(float volume);  // 0…1 of each effect's own
     void setPlayerVolume(float volume); // 0…1 of what the player was set to
 
@@ -25,6 +31,7 @@ private:
     class Player;
 
     Audio& audio_;
+    Observers<std::string_view> played_;
     float soundVolume_ = 1;
     float playerVolume_ = 1;
     std::vector<Sound*> sounds_; // those that live

@@ -63,6 +63,10 @@ Item {
         anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.margin }
         spacing: Theme.gap
 
+        SoundNote {
+            anchors.horizontalCenter: parent.horizontalCenter
+            note: display.view.soundNotes.note
+        }
         SwitchPrompt {
             anchors.horizontalCenter: parent.horizontalCenter
             prompt: display.view.menu.open ? "" : display.view.oneSwitch.prompt

@@ -157,7 +157,9 @@ TEST_F(HelpedPlayTest, ButtonsOnTheCourtAimThrowAndTakeBack) {
 
 TEST_F(HelpedPlayTest, FromTheStartToTheResultAndBackInTheMenuWithAControllerAlone) {
     ScriptedControllers controllers;
-    const ControllerInput input(controllers, game.view(), game.window(), game.queue());
+    const ControllerInput input(controllers, game.view(), game.queue());
+    QObject::connect(&input, &ControllerInput::keyPressed, &game.window(),
+                     [this](Qt::Key key) { sendKey(game.window(), key); });
     const auto press = [&](ControllerButton button, double then) {
         controllers.coming = {{button, true}, {button, false}};
         game.wait(then);

@@ -166,6 +166,27 @@ TEST_F(OptionsTest, FineKeysAndPagesReachTheMatchOnlyWhileNoMenuIsOpen) {
     EXPECT_EQ(match.aimState, AimState::aimingAngle);
 }
 
+TEST_F(OptionsTest, SoundsAreNotedByOptionForAMoment) {
+    speak(AppLanguage::en);
+    appearAndHideMenu();
+    const auto throwABall = [this] {
+        keyboard.pressAction();
+        keyboard.pressAction();
+        keyboard.pressAction();
+    };
+    const SoundNotes& notes = *view.soundNotes();
+    throwABall();
+    EXPECT_EQ(notes.note(), "");
+    playUntil([this] { return match.aimState == AimState::idle; });
+    options.set(Option::soundNotes, 1);
+    throwABall();
+    EXPECT_EQ(notes.note(), "Throw");
+    platform.queue.advance(1.4);
+    EXPECT_EQ(notes.note(), "Throw");
+    platform.queue.advance(0.2);
+    EXPECT_EQ(notes.note(), "");
+}
+
 TEST_F(OptionsTest, LeavingIsAskedByOptionInTheMiddleOfAMatchOnly) {
     appearAndHideMenu();
     options.set(Option::askToLeave, 1);

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace vorbel {
 
@@ -74,6 +75,19 @@ TEST_F(AdjustableAudioTest, WhatIsMadeLaterFollowsToo) {
     EXPECT_EQ(volumes.of["Tink"], 0.5F);
     sound->setVolume(0.5F);
     EXPECT_EQ(volumes.of["Tink"], 0.25F);
+}
+
+TEST_F(AdjustableAudioTest, EachEffectIsToldByNameWhenItIsPlayedAlsoWhenItIsSilent) {
+    std::vector<std::string> told;
+    const auto subscription = audio.onSound([&](std::string_view name) { told.emplace_back(name); });
+    const auto pop = audio.systemSound("Pop");
+    const auto tink = audio.systemSound("Tink");
+    EXPECT_TRUE(told.empty());
+    audio.setSoundVolume(0);
+    tink->play();
+    pop->play();
+    pop->stop();
+    EXPECT_EQ(told, (std::vector<std::string>{"Tink", "Pop"}));
 }
 
 TEST_F(AdjustableAudioTest, WhatIsGoneIsLeftAlone) {
