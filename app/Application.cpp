@@ -66,6 +66,19 @@ QIcon windowIcon(const Resources& resources) {
     return icon;
 }
 
+// Sees each event before the event filters do, those of the toolkit included.
+class KeyJudgingApplication final : public QGuiApplication {
+public:
+    using QGuiApplication::QGuiApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        return heldKeys_.holdBack(*event) || QGuiApplication::notify(receiver, event);
+    }
+
+private:
+    HeldKeys heldKeys_;
+};
+
 int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     chooseGraphics();
     WindowPlatform platform;
@@ -73,6 +86,12 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     const bool demonstrate = commandLine.action == CommandLine::Action::demonstrate;
     MemoryDefaults guest = Demonstration::guestDefaults(platform.defaults);
     UserDefaults& player = platform.defaults;
+    if (commandLine.resetOptions) {
+        Options::reset(player);
+    }
+    if (commandLine.oneSwitch) {
+        Options(player).set(Option::switchOn, 1);
+    }
     ContentView view(platform.services(), demonstrate ? guest : player);
     view.receiveNotifications(notifications);
     setDefaultFont(view.settings()->selectedLanguage());
@@ -80,8 +99,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
                      [&shell] { shell.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(platform.resources));
-    HeldKeys heldKeys;
-    application.installEventFilter(&heldKeys);
+    application.installEventFilter(view.oneSwitch()); // held keys were judged before
     QQmlApplicationEngine engine;
     const QSize smallest = smallestWindow(QGuiApplication::primaryScreen()->availableSize());
     engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)},
@@ -97,6 +115,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
         return EXIT_FAILURE; // the engine has said why
     }
     prepareWindow(*window);
+    view.oneSwitch()->setWindow(*window);
     QtWindowFrame frame(*window);
     shell.setWindow(frame);
     QObject::connect(&frame, &QtWindowFrame::screenChanged, &shell, [&shell, window] {
@@ -117,7 +136,7 @@ int runApplication(int argc, char** argv, const CommandLine& commandLine) {
     configureMemory();
     std::optional<DisplayGuard> guard(std::in_place);
     int programNameOnly = std::min(argc, 1);
-    QGuiApplication application(programNameOnly, argv);
+    KeyJudgingApplication application(programNameOnly, argv);
     guard.reset();
     QGuiApplication::setApplicationName(QStringLiteral("vorbel"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("VORBEL"));

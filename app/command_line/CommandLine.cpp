@@ -29,6 +29,10 @@ private:
             result_.action = Action::showVersion;
         } else if (option == "--demo") {
             result_.action = Action::demonstrate;
+        } else if (option == "--reset-options") {
+            result_.resetOptions = true;
+        } else if (option == "--one-switch") {
+            result_.oneSwitch = true;
         } else if (option == "--screenshot") {
             result_.action = Action::takeScreenshot;
             takePath(option, result_.screenshot);
@@ -76,6 +80,8 @@ Usage: vorbel [OPTION]
   --screenshot FILE       draw the arena into a PNG file and exit
   --demo                  let the computer play a match against itself and exit
   --screenshots FOLDER    with --demo: leave a picture of each stage in the folder
+  --one-switch            turn on playing with one switch
+  --reset-options         start with every option as in a new game
   --version               print the version and exit
   --help                  print this text and exit
 

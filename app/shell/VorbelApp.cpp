@@ -34,6 +34,10 @@ QString VorbelApp::toggleFullScreenTitle() const {
     return text("menu.toggleFullScreen", language_);
 }
 
+QString VorbelApp::optionsTitle() const {
+    return text("menu.options", language_);
+}
+
 bool VorbelApp::rightToLeft() const {
     return isRightToLeft(language_);
 }
@@ -74,6 +78,10 @@ void VorbelApp::requestRules() {
 }
 void VorbelApp::requestAbout() {
     notifications_.post(showAboutRequested);
+}
+
+void VorbelApp::requestOptions() {
+    notifications_.post(showOptionsRequested);
 }
 
 void VorbelApp::toggleFullScreenEmulation(bool exitOnly) {
