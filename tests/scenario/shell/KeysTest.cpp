@@ -44,13 +44,19 @@ protected:
     void SetUp() override {
         movePointer({1500, 1000}); // out of the way
         ASSERT_TRUE(desktop.focusGame()) << qUtf8Printable(game.errors());
-        ASSERT_TRUE(waitUntil([this] { return seesMenu(); }));
+        ASSERT_TRUE(waitUntil([this] { return seesMenu() && seesArenaBehindMenu(); }));
     }
     void TearDown() override { EXPECT_EQ(game.errors(), QString()); }
 
     [[nodiscard]] QColor at(QPoint place) const { return desktop.picture().pixelColor(place); }
     [[nodiscard]] bool seesCourt() const { return alike(at(court), courtGreen); }
     [[nodiscard]] bool seesMenu() const { return at({300, 15}) == QColor(0x16, 0x16, 0x1f) && !seesCourt(); }
+
+    // The menu is there first. A tenth of the court's light shines through it.
+    [[nodiscard]] bool seesArenaBehindMenu() const {
+        const QColor corner = at({150, 700});
+        return corner.green() > 6 && corner.green() > corner.blue() + 2;
+    }
 
     [[nodiscard]] bool startMatch() const {
         desktop.startMatch();
