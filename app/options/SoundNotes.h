@@ -28,7 +28,8 @@ public:
     static constexpr double shownFor = 1.5; // s
 
     // All four must outlive it.
-    SoundNotes(AdjustableAudio& audio, const Options& options, const PlayerSettings& settings, MainQueue& queue);
+    SoundNotes(AdjustableAudio& audio, const Options& options, const PlayerSettings& settings,
+               MainQueue& queue);
 
     [[nodiscard]] QString note() const; // empty while there is none
 

@@ -36,6 +36,7 @@ ContentView::ContentView(const Platform& platform, UserDefaults& defaults)
       career_(defaults, platform.random),
       recorder_(gameLogic_, career_, [this] { openMenu_.setMenuScreen(MenuScreen::matchResult); }),
       changes_(gameLogic_, platform.mainQueue),
+      sightOptions_(gameLogic_.scene, options_, changes_),
       keyboard_(gameLogic_, openMenu_),
       menu_(gameLogic_, settings_, openMenu_, career_, options_, platform_.resources) {
     connect(&changes_, &MatchChanges::changed, this, &ContentView::refresh);

@@ -9,6 +9,7 @@
 #include "app/options/LeaveQuestion.h"
 #include "app/options/MatchOptions.h"
 #include "app/options/Options.h"
+#include "app/options/SightOptions.h"
 #include "app/options/SoundNotes.h"
 #include "app/options/SoundOptions.h"
 #include "app/settings/PlayerSettings.h"
@@ -85,6 +86,7 @@ private:
     Career career_;
     CareerRecorder recorder_;
     MatchChanges changes_;
+    SightOptions sightOptions_;
     Keyboard keyboard_;
     HudModel hud_;
     MenuModel menu_;

@@ -41,7 +41,7 @@ protected:
     void expectScreen(MenuScreen screen) { ASSERT_EQ(game.view().openMenu().menuScreen(), screen); }
     [[nodiscard]] bool isOver() const { return match.phase == GamePhase::gameOver; }
     void expectPlayedMatch() {
-        EXPECT_GE(match.endHistory->size(), 4u);
+        EXPECT_GE(match.endHistory.get().size(), 4u);
         EXPECT_EQ(game.defaults().integer("boccia_gamesPlayed"), 1);
         EXPECT_EQ(game.complaints().join(QLatin1Char('\n')).toStdString(), "");
     }
