@@ -95,6 +95,9 @@ TEST_F(OneSwitchPlayTest, FromTheStartToTheResultAndBackInTheMenuWithSpaceAlone)
 TEST_F(OneSwitchPlayTest, AClickAnywhereIsTheSwitchAndNothingElse) {
     QQuickItem* const quit = game.button("Quit");
     ASSERT_NE(quit, nullptr);
+    for (int step = 0; step < 40 && !isOffered("Start Game"); ++step) {
+        game.wait(0.3);
+    }
     ASSERT_TRUE(isOffered("Start Game"));
     game.click(*quit);
     expectScreen(MenuScreen::country);
@@ -108,7 +111,9 @@ TEST_F(OneSwitchPlayTest, TheOptionsAreReachedFromTheMainMenuAndTurnItOff) {
     EXPECT_TRUE(one.frame().isEmpty());
     game.press(Qt::Key_Return); // acts again by itself
     expectScreen(MenuScreen::main);
-    EXPECT_EQ(game.button("Options"), nullptr);
+    for (const QQuickItem* control : game.controls()) {
+        EXPECT_NE(control->property("text"), "Options") << "the menu bar has them";
+    }
 }
 
 TEST_F(HelpedPlayTest, FromTheStartToTheResultAndBackInTheMenuWithTheMouseAlone) {

@@ -1,6 +1,6 @@
 // The looks of the aiming pointer.
-#include "scene/Arena.h"
 #include "scene/Pointer.h"
+#include "scene/Arena.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,8 @@ TEST_F(PointerTest, TheClearOneIsWhiteBetweenBlackEdges) {
     EXPECT_EQ(white.material.emission, colors::white);
     EXPECT_EQ(black.material.diffuse, colors::black);
     EXPECT_GT(std::get<Box>(black.shape).width, std::get<Box>(white.shape).width);
-    EXPECT_LT(std::get<Box>(black.shape).height, std::get<Box>(white.shape).height) << "the white lies on top";
+    EXPECT_LT(std::get<Box>(black.shape).height, std::get<Box>(white.shape).height)
+        << "the white lies on top";
 }
 
 TEST_F(PointerTest, ItsPlaceAndWhetherItIsSeenStayAsTheyAre) {
