@@ -1,7 +1,7 @@
 // A key that is held down is one action, however long it is held.
 #pragma once
 
-#include <QtGlobal>
+#include <cstdint>
 
 class QEvent;
 class QKeyEvent;
@@ -23,8 +23,8 @@ public:
 private:
     struct Stroke {
         int key = 0;
-        quint32 scanCode = 0;
-        quint64 time = 0; // ms, on the clock of the desktop; 0: none
+        std::uint32_t scanCode = 0;
+        std::uint64_t time = 0; // ms, on the clock of the desktop; 0: none
 
         bool operator==(const Stroke&) const = default;
     };

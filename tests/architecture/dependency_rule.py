@@ -51,12 +51,13 @@ MAY_SEE = {
     "app": {"GLM", "POSIX", "Qt"},
     "tools": {"GLM", "POSIX"},
     "bench": TESTING,
-    "tests": TESTING,
+    "tests": TESTING | {"SDL"},  # makes up controllers
 }
 
 # Under platform/, what the files of one CMake target may see besides.
 MAY_WRAP = {
     "vorbel_audio_sdl": {"SDL", "mpg123", "ALSA"},
+    "vorbel_controllers_sdl": {"SDL"},
     "vorbel_physics": {"Bullet"},
     "vorbel_render": {"Qt", "OpenGL"},
     "vorbel_runloop_qt": {"Qt"},
