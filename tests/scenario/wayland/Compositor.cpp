@@ -36,7 +36,8 @@ Compositor::Compositor(QSize screen, int scale) : screen_(QPoint(0, 0), screen *
     process_.start(QStringLiteral("weston"),
                    {QStringLiteral("--backend=x11-backend.so"), QStringLiteral("--use-pixman"),
                     QStringLiteral("--config=") + file.fileName(), QStringLiteral("--socket=vorbel-test"),
-                    QStringLiteral("--width=%1").arg(screen.width()), QStringLiteral("--height=%1").arg(screen.height()),
+                    QStringLiteral("--width=%1").arg(screen.width()),
+                    QStringLiteral("--height=%1").arg(screen.height()),
                     QStringLiteral("--scale=%1").arg(scale),
                     QStringLiteral("--log=") + place_.filePath(QStringLiteral("log"))});
 }
@@ -48,10 +49,12 @@ Compositor::~Compositor() {
 
 bool Compositor::isReady() {
     process_.waitForStarted();
-    QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("mousemove"), QStringLiteral("1"), QStringLiteral("1")});
+    QProcess::execute(QStringLiteral("xdotool"),
+                      {QStringLiteral("mousemove"), QStringLiteral("1"), QStringLiteral("1")});
     const bool shown = waitUntil([this] {
         const QImage now = picture();
-        return isBackground(now.pixel(now.width() - 1, 0)) && isBackground(now.pixel(now.width() - 1, now.height() - 1));
+        return isBackground(now.pixel(now.width() - 1, 0)) &&
+               isBackground(now.pixel(now.width() - 1, now.height() - 1));
     });
     return shown && process_.state() == QProcess::Running;
 }
