@@ -4,6 +4,7 @@
 #include "app/command_line/Output.h"
 #include "app/command_line/Screenshot.h"
 #include "app/command_line/Speed.h"
+#include "app/controller/ControllerInput.h"
 #include "app/diagnose/Diagnosis.h"
 #include "app/diagnose/FrameTest.h"
 #include "app/session/CrashNote.h"
@@ -21,6 +22,7 @@
 #include "app/window/HeldKeys.h"
 #include "app/window/PointSize.h"
 #include "platform/audio/SdlAudio.h"
+#include "platform/controllers/SdlControllers.h"
 #include "platform/runloop/QtMainQueue.h"
 #include "platform/store/SettingsDefaults.h"
 
@@ -75,6 +77,19 @@ QIcon windowIcon(const Resources& resources) {
     return icon;
 }
 
+// Sees each event before the event filters do, those of the toolkit included.
+class KeyJudgingApplication final : public QGuiApplication {
+public:
+    using QGuiApplication::QGuiApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        return heldKeys_.holdBack(*event) || QGuiApplication::notify(receiver, event);
+    }
+
+private:
+    HeldKeys heldKeys_;
+};
+
 void tellOfLastSession(const LastSession& last, VorbelApp& shell) {
     const std::filesystem::path log = Log::fileIn(userStateFolder());
     noteCrashesIn(log);
@@ -92,6 +107,12 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     const bool diagnose = commandLine.action == CommandLine::Action::diagnose;
     MemoryDefaults guest = Demonstration::guestDefaults(platform.defaults);
     UserDefaults& player = platform.defaults;
+    if (commandLine.resetOptions) {
+        Options::reset(player);
+    }
+    if (commandLine.oneSwitch) {
+        Options(player).set(Option::switchOn, 1);
+    }
     ContentView view(platform.services(), demonstrate || diagnose ? guest : player);
     view.receiveNotifications(notifications);
     setDefaultFont(view.settings()->selectedLanguage());
@@ -99,8 +120,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,
                      [&shell] { shell.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(platform.resources));
-    HeldKeys heldKeys;
-    application.installEventFilter(&heldKeys);
+    application.installEventFilter(view.oneSwitch()); // held keys were judged before
     QQmlApplicationEngine engine;
     const QSize smallest = smallestWindow(QGuiApplication::primaryScreen()->availableSize());
     engine.setInitialProperties({{QStringLiteral("view"), QVariant::fromValue(&view)},
@@ -117,12 +137,17 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
         return EXIT_FAILURE;
     }
     prepareWindow(*window);
+    view.oneSwitch()->setWindow(*window);
     QtWindowFrame frame(*window);
     shell.setWindow(frame);
     QObject::connect(&frame, &QtWindowFrame::screenChanged, &shell, [&shell, window] {
         window->setMinimumSize(smallestWindow(window->screen()->availableSize()));
         shell.followScreen();
     });
+    SdlControllers controllers;
+    const ControllerInput controllerInput(controllers, view, platform.queue);
+    QObject::connect(&controllerInput, &ControllerInput::keyPressed, window,
+                     [window](Qt::Key key) { sendKey(*window, key); });
     const ScreenSaver screenSaver(view);
     // The toolkit leaves by exit() when the display goes, which is the end of the desktop's session and a good one.
     static std::optional<LastSession> lastSession;
@@ -166,7 +191,7 @@ int runApplication(int argc, char** argv, const CommandLine& commandLine) {
     }
     std::optional<DisplayGuard> guard(std::in_place);
     int programNameOnly = std::min(argc, 1);
-    QGuiApplication application(programNameOnly, argv);
+    KeyJudgingApplication application(programNameOnly, argv);
     guard.reset();
     QGuiApplication::setApplicationName(QStringLiteral("vorbel"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("VORBEL"));

@@ -23,7 +23,7 @@ void GameLogic::updateAiming() {
     if (aimState == AimState::thrown) {
         checkPhysics();
     } else if (aimState == AimState::aimingPower) {
-        state_.aimPower += aim::powerStep(playerClass) * state_.powerDirection;
+        state_.aimPower += aim::powerStep(playerClass) * state_.powerPace * state_.powerDirection;
         if (aim::turnsRound(aimPower)) {
             state_.powerDirection = -state_.powerDirection;
         }
@@ -81,7 +81,7 @@ void GameLogic::advanceHumanThrow() {
     case AimState::aimingAngle:
         clock_.cancel(); // an aim that the computer had begun is the player's from here on
         state_.aimState = AimState::aimingPower;
-        message = messages::lockPower(language);
+        message = powerIsSetByHand() ? messages::powerByKeys(language) : messages::lockPower(language);
         break;
     case AimState::aimingPower:
         beginThrow();

@@ -1,27 +1,59 @@
 #include "engine/Clockwork.h"
 
+#include <utility>
+
 namespace vorbel {
 
 void Clockwork::start(std::function<void()> work) {
-    const auto tick = [this, work = std::move(work)] {
+    work_ = [this, work = std::move(work)] {
         work();
         ticks_.tell();
     };
-    timer_ = queue_.repeat(tickPeriod, [this, tick] { queue_.post(lifetime_.whileAlive(tick)); });
+    runTicks();
+}
+
+void Clockwork::stop() {
+    work_ = nullptr;
+    timer_.cancel();
+}
+
+void Clockwork::runTicks() {
+    if (work_ && !paused_) {
+        timer_ = queue_.repeat(tickPeriod, [this, tick = work_] { queue_.post(lifetime_.whileAlive(tick)); });
+    }
 }
 
 void Clockwork::schedule(Step step, double seconds, std::function<void()> work) {
-    cancel();
-    scheduled_ = step;
-    queue_.postAfter(seconds, schedule_.whileAlive([this, work = std::move(work)] {
-        scheduled_ = Step::none;
-        work();
-    }));
+    scheduled_ = {step, seconds, std::move(work)};
+    wait();
+}
+
+void Clockwork::wait() {
+    schedule_ = Lifetime();
+    if (scheduled_.step != Step::none && !paused_) {
+        queue_.postAfter(scheduled_.seconds, schedule_.whileAlive([this] {
+            const auto work = std::exchange(scheduled_, {}).work;
+            work();
+        }));
+    }
 }
 
 void Clockwork::cancel() {
-    scheduled_ = Step::none;
+    scheduled_ = {};
     schedule_ = Lifetime();
+}
+
+void Clockwork::pause() {
+    paused_ = true;
+    timer_.cancel();
+    schedule_ = Lifetime();
+}
+
+void Clockwork::resume() {
+    if (std::exchange(paused_, false)) {
+        runTicks();
+        wait();
+    }
 }
 
 } // namespace vorbel

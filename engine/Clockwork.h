@@ -19,7 +19,11 @@ public:
 
     // Runs the work every tick, and tells the observers after it, until it is stopped or started again.
     void start(std::function<void()> work);
-    void stop() { timer_.cancel(); }
+    void stop();
+    // Nothing runs between pause and resume: neither the tick, nor the step, which then waits its whole time
+    // anew. Either does nothing when it was already called.
+    void pause();
+    void resume();
     [[nodiscard]] Subscription onTick(std::function<void()> observer) {
         return ticks_.add(std::move(observer));
     }
@@ -27,16 +31,27 @@ public:
     // The computer's turn has two steps, of which one at most is scheduled: to take aim, and to release the
     // ball.
     enum class Step : std::uint8_t { none, aim, release };
-    [[nodiscard]] Step scheduled() const { return scheduled_; }
+    [[nodiscard]] Step scheduled() const { return scheduled_.step; }
     // Runs the work `seconds` from now as that step, in place of what was scheduled before.
     void schedule(Step step, double seconds, std::function<void()> work);
     void cancel(); // drops what is scheduled
 
 private:
+    struct Scheduled {
+        Step step = Step::none;
+        double seconds = 0;
+        std::function<void()> work;
+    };
+
+    void runTicks();
+    void wait(); // for the scheduled step
+
     MainQueue& queue_;
+    std::function<void()> work_; // of a tick; none while it is stopped
+    bool paused_ = false;
     Subscription timer_;
     Observers<> ticks_;
-    Step scheduled_ = Step::none;
+    Scheduled scheduled_;
     Lifetime schedule_; // of the scheduled step: replaced with it
     Lifetime lifetime_;
 };

@@ -84,6 +84,9 @@ public:
 
     void startAimingLoop(); // starts, or restarts, the 20 ms tick that moves physics, power and settling
     void stopAimingLoop();
+    // A paused match does nothing by itself until it is resumed; the computer then begins its step anew.
+    void pause() { clock_.pause(); }
+    void resume() { clock_.resume(); }
     // Calls the observer after each tick, when physics and rules have moved on.
     [[nodiscard]] Subscription onTick(std::function<void()> observer) {
         return clock_.onTick(std::move(observer));
@@ -94,6 +97,16 @@ public:
     void moveAimUp(); // never for class BC3: a ramp keeps the throw on the ground
     void moveAimDown();
     void processInput(); // the one action key: next stage of the throw, next end, next match
+
+    // --- engine/AimingHelp.cpp: for throwers who need more time or smaller steps; nothing here acts by itself
+
+    void setPowerPace(double pace); // 0…1 of the class's swing; at 0 the power waits to be set by hand
+    [[nodiscard]] double powerPace() const { return state_.powerPace; }
+    [[nodiscard]] bool humanSetsPower() const; // the power waits to be set by hand
+    void changePower(double percent);          // only while humanSetsPower(), within the range of the swing
+    void turnAimBy(double angle);              // rad; like moveAimLeft and moveAimRight
+    void raiseAimBy(double angle);             // rad; like moveAimUp and moveAimDown
+    void takeBack(); // a human's last stage: the power, then the aim; nothing once the ball is released
 
     // --- engine/Throwing.cpp
 
@@ -149,6 +162,7 @@ private:
     void turnAim(double angle);
     void raiseAim(double angle);
     void advanceHumanThrow();
+    [[nodiscard]] bool powerIsSetByHand() const { return state_.powerPace == 0; }
     void beginThrow();
     void releaseBall();
     void passJackToOtherSide();

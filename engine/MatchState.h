@@ -29,6 +29,7 @@ struct MatchState {
     Published<double> aimPower{aim::startPower}; // percent of full throwing speed
 
     int jackThrowAttempts = 0; // in this end
+    double powerPace = 1;      // of the swing, 1 as the class has it; at 0 the thrower sets the power by hand
     double powerDirection = 1; // +1 while the power rises, −1 while it falls; survives the throw
     int ticksSinceThrown = 0;  // since the last release
 

@@ -52,6 +52,10 @@ std::string lockPower(AppLanguage language) {
     return say(language, {"[ПРОБЕЛ] Зафиксировать силу броска", {}}, "msg.lockPower");
 }
 
+std::string powerByKeys(AppLanguage language) {
+    return std::string(L10n::t("aim.powerByKeys", language));
+}
+
 std::string ballInPlay(AppLanguage language) {
     return say(language, {"Мяч в игре...", {}}, "msg.ballInPlay");
 }

@@ -13,6 +13,7 @@ namespace vorbel::messages {
 
 [[nodiscard]] std::string aimingHint(AppLanguage language);
 [[nodiscard]] std::string lockPower(AppLanguage language);
+[[nodiscard]] std::string powerByKeys(AppLanguage language); // the power waits to be set by hand
 [[nodiscard]] std::string ballInPlay(AppLanguage language);
 [[nodiscard]] std::string aiAiming(AppLanguage language, BallColor side);
 

@@ -1,14 +1,19 @@
 // The keys of every text of the program, in the order in which each language's files list them.
 //
-// A new key: list it in `extraKeys` and give it a text in every file of extra/. A key that ends in ".format"
-// is a template; the code fills its placeholders "%@" from left to right, so every language has them in the
-// same number and order.
+// A new key: list it in `pageKeys`, OptionKeys.h or SpokenKeys.h and give it a text in every file of extra/,
+// options/ or spoken/. A key that ends in ".format" is a template; the code fills its placeholders "%@" from
+// left to right, so every language has them in the same number and order.
 //
-// A new language: a case in AppLanguage.h with its row in AppLanguage.cpp, files texts/CODE.h and
-// extra/CODE.h in the form of the English ones, and in Texts.cpp and ExtraTexts.cpp one include and one row.
+// A new language: a case in AppLanguage.h with its row in AppLanguage.cpp, files texts/CODE.h, extra/CODE.h,
+// options/CODE.h and spoken/CODE.h in the form of the English ones, and one include and one row for each of
+// them in Texts.cpp and the Languages.h beside it.
 // Texts of `keys` that a language lacks are shown in English; those of `extraKeys` are complete. A key that
 // is unknown, given twice or out of order, an empty text, or a language listed twice does not compile.
 #pragma once
+
+#include "l10n/Joined.h"
+#include "l10n/OptionKeys.h"
+#include "l10n/SpokenKeys.h"
 
 #include <array>
 #include <string_view>
@@ -139,8 +144,8 @@ inline constexpr std::array<std::string_view, 113> keys{
     "about.text",
 };
 
-// What is said beyond those.
-inline constexpr auto extraKeys = std::to_array<std::string_view>({
+// What is said beyond those: on the game's pages and its screens, ...
+inline constexpr auto pageKeys = std::to_array<std::string_view>({
     "end.equidistant.format",
     "hud.tournament.format",
     "about.pages",
@@ -150,5 +155,8 @@ inline constexpr auto extraKeys = std::to_array<std::string_view>({
     "page.boccia.text",
     "page.licence",
 });
+
+// ... by the options, and aloud.
+inline constexpr auto extraKeys = joined(pageKeys, optionKeys, spokenKeys);
 
 } // namespace vorbel::L10n

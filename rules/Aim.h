@@ -19,9 +19,12 @@ inline constexpr double angleLimit = std::numbers::pi / 4; // rad, to both sides
 inline constexpr double pitchLimit = std::numbers::pi / 3; // rad
 inline constexpr double angleStep = 0.05;                  // rad a key press
 inline constexpr double pitchStep = 0.05;                  // rad a key press
+inline constexpr double fineStep = 0.01;                   // rad, of both, for those who aim finely
 inline constexpr double lowestPower = 10;                  // percent; the swing turns round beyond it
 inline constexpr double highestPower = 100;                // percent
 inline constexpr double startPower = lowestPower;          // before every throw of an end
+inline constexpr double powerByHandStep = 1;               // percent a key press, where it does not swing
+inline constexpr double powerByHandLeap = 10;              // percent, for a quick change
 inline constexpr double releaseError = 0.06;               // rad, largest of a BC1 thrower's release
 
 [[nodiscard]] double clampAngle(double angle);

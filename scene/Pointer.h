@@ -3,6 +3,7 @@
 
 #include "platform/scenegraph/Scene.h"
 
+#include <cstdint>
 #include <string_view>
 
 namespace vorbel::arena {
@@ -13,5 +14,10 @@ inline constexpr double shownPointerOpacity = 0.8;
 
 // Lies on the court, from the middle of the throwing line forwards, and is not seen yet.
 void addPointer(Scene& scene);
+
+// Usual, a red bar; clear, a white one between black edges, for those who see it badly. Whether it is seen, and where
+// it points, stays as it is. Nothing without a pointer.
+enum class PointerLook : std::uint8_t { usual, clear };
+void setPointerLook(Scene& scene, PointerLook look);
 
 } // namespace vorbel::arena

@@ -31,6 +31,10 @@ private:
             result_.action = Action::showVersion;
         } else if (option == "--demo") {
             result_.action = Action::demonstrate;
+        } else if (option == "--reset-options") {
+            result_.resetOptions = true;
+        } else if (option == "--one-switch") {
+            result_.oneSwitch = true;
         } else if (option == "--diagnose") {
             result_.action = Action::diagnose;
         } else if (option == "--verbose") {
@@ -82,6 +86,8 @@ Usage: vorbel [OPTION]
   --screenshot FILE       draw the arena into a PNG file and exit
   --demo                  let the computer play a match against itself and exit
   --screenshots FOLDER    with --demo: leave a picture of each stage in the folder
+  --one-switch            turn on playing with one switch
+  --reset-options         start with every option as in a new game
   --diagnose              print what a report of a problem needs: a page about game and machine, and exit
   --verbose               tell on the console what goes into the log, and more
   --version               print the version and exit

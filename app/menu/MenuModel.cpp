@@ -15,14 +15,15 @@ static_assert(static_cast<int>(MenuModel::Screen::MatchResult) == static_cast<in
 static_assert(static_cast<int>(MenuModel::Screen::Hidden) == static_cast<int>(MenuScreen::hidden));
 
 MenuModel::MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openMenu, Career& career,
-                     const Resources& resources)
+                     Options& options, const Resources& resources)
     : match_(match),
       settings_(settings),
       openMenu_(openMenu),
       resources_(resources),
       choices_(settings),
       career_(career, settings),
-      result_(match, settings, openMenu) {
+      result_(match, settings, openMenu),
+      options_(options, settings, openMenu) {
     texts_.setLanguage(settings_.selectedLanguage());
     connect(&openMenu_, &OpenMenu::menuScreenChanged, this, &MenuModel::screenChanged);
     connect(&settings_, &PlayerSettings::languageChanged, this, [this] {

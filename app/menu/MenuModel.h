@@ -6,6 +6,7 @@
 #include "app/menu/MenuResult.h"
 #include "app/menu/MenuScreen.h"
 #include "app/menu/MenuTexts.h"
+#include "app/options/OptionsModel.h"
 
 #include <QObject>
 #include <QUrl>
@@ -35,14 +36,15 @@ class MenuModel : public QObject {
     Q_PROPERTY(vorbel::MenuChoices* choices READ choices CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuCareer* career READ career CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuResult* result READ result CONSTANT FINAL)
+    Q_PROPERTY(vorbel::OptionsModel* options READ options CONSTANT FINAL)
 
 public:
-    enum class Screen { Main, Country, BcClass, Rules, About, Diary, MatchResult, Hidden };
+    enum class Screen { Main, Country, BcClass, Rules, About, Diary, Options, Leave, MatchResult, Hidden };
     Q_ENUM(Screen)
 
-    // All five must outlive it.
+    // All six must outlive it.
     MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openMenu, Career& career,
-              const Resources& resources);
+              Options& options, const Resources& resources);
 
     [[nodiscard]] Screen screen() const;
     [[nodiscard]] bool isOpen() const;
@@ -54,6 +56,7 @@ public:
     [[nodiscard]] MenuChoices* choices() { return &choices_; }
     [[nodiscard]] MenuCareer* career() { return &career_; }
     [[nodiscard]] MenuResult* result() { return &result_; }
+    [[nodiscard]] OptionsModel* options() { return &options_; }
 
     Q_INVOKABLE void startGame();       // a single match: first its country
     Q_INVOKABLE void startTournament(); // the same for a tournament
@@ -82,6 +85,7 @@ private:
     MenuChoices choices_;
     MenuCareer career_;
     MenuResult result_;
+    OptionsModel options_;
 };
 
 } // namespace vorbel

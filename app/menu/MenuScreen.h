@@ -6,6 +6,17 @@
 namespace vorbel {
 
 // `hidden`: no menu is open and the match has the keyboard.
-enum class MenuScreen : std::uint8_t { main, country, bcClass, rules, about, diary, matchResult, hidden };
+enum class MenuScreen : std::uint8_t {
+    main,
+    country,
+    bcClass,
+    rules,
+    about,
+    diary,
+    options,
+    leave,
+    matchResult,
+    hidden
+};
 
 } // namespace vorbel

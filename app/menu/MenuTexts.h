@@ -29,6 +29,12 @@ class MenuTexts : public QObject {
     Q_PROPERTY(QString rulesText READ rulesText NOTIFY changed FINAL)
     Q_PROPERTY(QString aboutText READ aboutText NOTIFY changed FINAL)
     Q_PROPERTY(QString pages READ pages NOTIFY changed FINAL)
+    Q_PROPERTY(QString aimLeft READ aimLeft NOTIFY changed FINAL)
+    Q_PROPERTY(QString aimRight READ aimRight NOTIFY changed FINAL)
+    Q_PROPERTY(QString aimUp READ aimUp NOTIFY changed FINAL)
+    Q_PROPERTY(QString aimDown READ aimDown NOTIFY changed FINAL)
+    Q_PROPERTY(QString aimOk READ aimOk NOTIFY changed FINAL)
+    Q_PROPERTY(QString takeBack READ takeBack NOTIFY changed FINAL)
     Q_PROPERTY(QString diaryEmpty READ diaryEmpty NOTIFY changed FINAL)
 
 public:
@@ -52,6 +58,12 @@ public:
     [[nodiscard]] QString rulesText() const { return t("rules.text"); }
     [[nodiscard]] QString aboutText() const { return t("about.text"); }
     [[nodiscard]] QString pages() const { return t("about.pages"); }
+    [[nodiscard]] QString aimLeft() const { return t("aim.left"); }
+    [[nodiscard]] QString aimRight() const { return t("aim.right"); }
+    [[nodiscard]] QString aimUp() const { return t("aim.up"); }
+    [[nodiscard]] QString aimDown() const { return t("aim.down"); }
+    [[nodiscard]] QString aimOk() const { return t("aim.ok"); }
+    [[nodiscard]] QString takeBack() const { return t("aim.takeBack"); }
     [[nodiscard]] QString diaryEmpty() const { return t("diary.empty"); }
 
 signals:

@@ -15,6 +15,7 @@ namespace vorbel {
 inline constexpr std::string_view newGameRequested = "bocciaNewGameRequested";
 inline constexpr std::string_view showRulesRequested = "bocciaShowRulesRequested";
 inline constexpr std::string_view showAboutRequested = "bocciaShowAboutRequested";
+inline constexpr std::string_view showOptionsRequested = "bocciaShowOptionsRequested";
 
 // Main thread only.
 class NotificationCenter {

@@ -35,6 +35,10 @@ QString VorbelApp::toggleFullScreenTitle() const {
     return text("menu.toggleFullScreen", language_);
 }
 
+QString VorbelApp::optionsTitle() const {
+    return text("menu.options", language_);
+}
+
 QString VorbelApp::closeNoticeTitle() const {
     return text("menu.back", language_);
 }
@@ -93,6 +97,10 @@ void VorbelApp::requestRules() {
 }
 void VorbelApp::requestAbout() {
     notifications_.post(showAboutRequested);
+}
+
+void VorbelApp::requestOptions() {
+    notifications_.post(showOptionsRequested);
 }
 
 void VorbelApp::toggleFullScreenEmulation(bool exitOnly) {

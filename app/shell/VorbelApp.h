@@ -26,6 +26,7 @@ class VorbelApp final : public QObject {
     Q_PROPERTY(QString rulesTitle READ rulesTitle NOTIFY languageChanged FINAL)
     Q_PROPERTY(QString aboutTitle READ aboutTitle NOTIFY languageChanged FINAL)
     Q_PROPERTY(QString toggleFullScreenTitle READ toggleFullScreenTitle NOTIFY languageChanged FINAL)
+    Q_PROPERTY(QString optionsTitle READ optionsTitle NOTIFY languageChanged FINAL)
     Q_PROPERTY(bool rightToLeft READ rightToLeft NOTIFY languageChanged FINAL)
     Q_PROPERTY(QVariantList newGameKeys READ newGameKeys CONSTANT FINAL)
     Q_PROPERTY(QVariantList fullScreenKeys READ fullScreenKeys CONSTANT FINAL)
@@ -48,6 +49,7 @@ public:
     [[nodiscard]] QString rulesTitle() const;
     [[nodiscard]] QString aboutTitle() const;
     [[nodiscard]] QString toggleFullScreenTitle() const;
+    [[nodiscard]] QString optionsTitle() const;
     [[nodiscard]] bool rightToLeft() const;
     // None is given twice. Needs the application object.
     [[nodiscard]] static QVariantList newGameKeys();
@@ -67,6 +69,7 @@ public:
     Q_INVOKABLE void requestNewGame();
     Q_INVOKABLE void requestRules();
     Q_INVOKABLE void requestAbout();
+    Q_INVOKABLE void requestOptions();
     Q_INVOKABLE void toggleFullScreenEmulation(bool exitOnly);
     void followScreen(); // call it when the window's screen became another one or changed its size
 

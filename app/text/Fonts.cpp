@@ -5,6 +5,24 @@
 
 namespace vorbel {
 
+namespace {
+
+// The handler of messages before ours. A function to be called back gets no state of its own.
+QtMessageHandler& formerHandler() {
+    static QtMessageHandler handler = nullptr;
+    return handler;
+}
+
+// While the language changes, texts and their font follow one after the other, so that a text meets the font of
+// the other language for a moment. The toolkit complains of that, and then finds another font by itself.
+void tellAllButMissingScripts(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (!message.startsWith(QLatin1String("  OpenType support missing for"))) {
+        formerHandler()(type, context, message);
+    }
+}
+
+} // namespace
+
 QString fontFamily(AppLanguage language) {
     switch (language) {
     case AppLanguage::zh:
@@ -39,6 +57,7 @@ void prepareFonts() {
     }
     QFont::insertSubstitutions(base, {emoji});
     setDefaultFont(defaultLanguage);
+    formerHandler() = qInstallMessageHandler(tellAllButMissingScripts);
 }
 
 void setDefaultFont(AppLanguage language) {

@@ -16,7 +16,8 @@ namespace vorbel {
 // which are large: one of them does for all names.
 [[nodiscard]] QString nameFontFamily(AppLanguage language);
 
-// Makes the substitutes known and the default font "Noto Sans".
+// Makes the substitutes known and the default font "Noto Sans", and keeps the toolkit from telling that a font lacks
+// the script of another language while the language changes.
 // Call once, after the application object was made.
 void prepareFonts();
 

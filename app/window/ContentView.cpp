@@ -23,14 +23,22 @@ constexpr std::array requests{Request{newGameRequested, MenuScreen::main},
 } // namespace
 
 ContentView::ContentView(const Platform& platform, UserDefaults& defaults)
-    : platform_(platform),
-      gameLogic_(platform),
+    : audio_(platform.audio),
+      platform_{platform.mainQueue, platform.random, audio_, platform.resources},
+      gameLogic_(platform_),
       settings_(gameLogic_, platform.mainQueue, defaults),
+      options_(defaults),
+      soundOptions_(audio_, options_),
+      soundNotes_(audio_, options_, settings_, platform.mainQueue),
+      leaving_(gameLogic_, options_, settings_, openMenu_),
+      matchOptions_(gameLogic_, options_, openMenu_),
+      oneSwitch_(gameLogic_, options_, openMenu_, settings_, platform.mainQueue),
       career_(defaults, platform.random),
       recorder_(gameLogic_, career_, [this] { openMenu_.setMenuScreen(MenuScreen::matchResult); }),
       changes_(gameLogic_, platform.mainQueue),
+      sightOptions_(gameLogic_.scene, options_, changes_),
       keyboard_(gameLogic_, openMenu_),
-      menu_(gameLogic_, settings_, openMenu_, career_, platform_.resources) {
+      menu_(gameLogic_, settings_, openMenu_, career_, options_, platform_.resources) {
     connect(&changes_, &MatchChanges::changed, this, &ContentView::refresh);
     connect(&settings_, &PlayerSettings::choicesChanged, &changes_, &MatchChanges::tellSoon);
     refresh();
@@ -42,6 +50,7 @@ void ContentView::appear() {
 }
 
 void ContentView::receiveNotifications(NotificationCenter& center) {
+    notifications_.push_back(center.addObserver(showOptionsRequested, [this] { menu_.options()->open(); }));
     for (const Request& request : requests) {
         notifications_.push_back(center.addObserver(
             request.notification, [this, screen = request.screen] { openMenu_.setMenuScreen(screen); }));

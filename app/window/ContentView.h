@@ -6,7 +6,14 @@
 #include "app/hud/HudModel.h"
 #include "app/menu/MenuModel.h"
 #include "app/menu/OpenMenu.h"
+#include "app/options/LeaveQuestion.h"
+#include "app/options/MatchOptions.h"
+#include "app/options/Options.h"
+#include "app/options/SightOptions.h"
+#include "app/options/SoundNotes.h"
+#include "app/options/SoundOptions.h"
 #include "app/settings/PlayerSettings.h"
+#include "app/switch/OneSwitch.h"
 #include "app/window/Keyboard.h"
 #include "app/window/MatchChanges.h"
 #include "engine/GameLogic.h"
@@ -31,6 +38,10 @@ class ContentView final : public QObject {
     Q_PROPERTY(vorbel::PlayerSettings* settings READ settings CONSTANT FINAL)
     Q_PROPERTY(vorbel::Keyboard* keyboard READ keyboard CONSTANT FINAL)
     Q_PROPERTY(vorbel::HudModel* hud READ hud CONSTANT FINAL)
+    Q_PROPERTY(vorbel::Options* options READ options CONSTANT FINAL)
+    Q_PROPERTY(vorbel::SoundNotes* soundNotes READ soundNotes CONSTANT FINAL)
+    Q_PROPERTY(vorbel::LeaveQuestion* leaving READ leaving CONSTANT FINAL)
+    Q_PROPERTY(vorbel::OneSwitch* oneSwitch READ oneSwitch CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuModel* menu READ menu CONSTANT FINAL)
 
 public:
@@ -51,19 +62,31 @@ public:
     [[nodiscard]] PlayerSettings* settings() { return &settings_; }
     [[nodiscard]] Keyboard* keyboard() { return &keyboard_; }
     [[nodiscard]] HudModel* hud() { return &hud_; }
+    [[nodiscard]] Options* options() { return &options_; }
+    [[nodiscard]] SoundNotes* soundNotes() { return &soundNotes_; }
+    [[nodiscard]] LeaveQuestion* leaving() { return &leaving_; }
+    [[nodiscard]] OneSwitch* oneSwitch() { return &oneSwitch_; }
     [[nodiscard]] MenuModel* menu() { return &menu_; }
 
 private:
     void refresh();
     void updatePointer();
 
-    Platform platform_;
+    AdjustableAudio audio_;
+    Platform platform_; // with that sound
     GameLogic gameLogic_;
     PlayerSettings settings_;
+    Options options_;
+    SoundOptions soundOptions_;
+    SoundNotes soundNotes_;
     OpenMenu openMenu_;
+    LeaveQuestion leaving_;
+    MatchOptions matchOptions_;
+    OneSwitch oneSwitch_;
     Career career_;
     CareerRecorder recorder_;
     MatchChanges changes_;
+    SightOptions sightOptions_;
     Keyboard keyboard_;
     HudModel hud_;
     MenuModel menu_;

@@ -18,17 +18,19 @@ bool moves(const QKeyEvent& event) {
 
 } // namespace
 
-bool HeldKeys::eventFilter(QObject* /*receiver*/, QEvent* event) {
-    switch (event->type()) {
+bool HeldKeys::holdBack(QEvent& event) {
+    switch (event.type()) {
     case QEvent::KeyRelease:
-        lastRelease_ = strokeOf(static_cast<const QKeyEvent&>(*event));
+        if (const Stroke stroke = strokeOf(static_cast<const QKeyEvent&>(event)); stroke.time != 0) {
+            lastRelease_ = stroke;
+        }
         return false;
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress: {
-        const auto& press = static_cast<const QKeyEvent&>(*event);
-        const bool swallowed = isRepeat(press) && !moves(press);
-        event->setAccepted(swallowed || event->isAccepted()); // accepted: the toolkit looks for no shortcut
-        return swallowed;
+        const auto& press = static_cast<const QKeyEvent&>(event);
+        const bool heldBack = isRepeat(press) && !moves(press);
+        event.setAccepted(heldBack || event.isAccepted()); // accepted: the toolkit looks for no shortcut
+        return heldBack;
     }
     default:
         return false;
@@ -40,7 +42,8 @@ HeldKeys::Stroke HeldKeys::strokeOf(const QKeyEvent& event) {
 }
 
 bool HeldKeys::isRepeat(const QKeyEvent& press) const {
-    return press.isAutoRepeat() || strokeOf(press) == lastRelease_;
+    const Stroke stroke = strokeOf(press);
+    return press.isAutoRepeat() || (stroke.time != 0 && stroke == lastRelease_);
 }
 
 } // namespace vorbel

@@ -1,30 +1,30 @@
 // A key that is held down is one action, however long it is held.
 #pragma once
 
-#include <QObject>
+#include <QtGlobal>
 
+class QEvent;
 class QKeyEvent;
 
 namespace vorbel {
 
-// An event filter for the application. Players with tremor or a slow release hold keys for long; the repeats
-// of a held key never reach the game, but for the keys that move something: the aim, the focus, a page.
+// Judges each event of the keyboard. Players with tremor or a slow release hold keys for long; the repeats of a held
+// key never reach the game, but for the keys that move something: the aim, the focus, a page.
 //
 // Not every desktop marks the repeats. On X11 a repeat may come as a release and a press that share their time
-// stamp, which no hand can do.
-class HeldKeys final : public QObject {
-    Q_OBJECT
-
+// stamp, which no hand can do. While assistive technology is in use the toolkit lets it see each press and release
+// first, and then sends a copy without a time: so the judge must stand before the application's event filters, and
+// what has no time has been judged.
+class HeldKeys {
 public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* receiver, QEvent* event) override;
+    // Whether this is a repeat that must go no further.
+    [[nodiscard]] bool holdBack(QEvent& event);
 
 private:
     struct Stroke {
         int key = 0;
         quint32 scanCode = 0;
-        quint64 time = 0; // ms, on the clock of the desktop
+        quint64 time = 0; // ms, on the clock of the desktop; 0: none
 
         bool operator==(const Stroke&) const = default;
     };

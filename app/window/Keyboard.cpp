@@ -11,19 +11,65 @@ void Keyboard::pressAction() {
     act(&GameLogic::processInput);
 }
 void Keyboard::pressLeft() {
-    act(&GameLogic::moveAimLeft);
+    arrow(&GameLogic::moveAimLeft, -aim::powerByHandStep);
 }
 void Keyboard::pressRight() {
-    act(&GameLogic::moveAimRight);
+    arrow(&GameLogic::moveAimRight, aim::powerByHandStep);
 }
 void Keyboard::pressUp() {
-    act(&GameLogic::moveAimUp);
+    arrow(&GameLogic::moveAimUp, aim::powerByHandStep);
 }
 void Keyboard::pressDown() {
-    act(&GameLogic::moveAimDown);
+    arrow(&GameLogic::moveAimDown, -aim::powerByHandStep);
 }
+
+void Keyboard::pressFineLeft() {
+    turn(-aim::fineStep);
+}
+void Keyboard::pressFineRight() {
+    turn(aim::fineStep);
+}
+void Keyboard::pressFineUp() {
+    raise(aim::fineStep);
+}
+void Keyboard::pressFineDown() {
+    raise(-aim::fineStep);
+}
+void Keyboard::pressTakeBack() {
+    act(&GameLogic::takeBack);
+}
+void Keyboard::pressPageUp() {
+    power(aim::powerByHandLeap);
+}
+void Keyboard::pressPageDown() {
+    power(-aim::powerByHandLeap);
+}
+
 void Keyboard::pressExitFullScreen() {
     emit exitFullScreenRequested();
+}
+
+void Keyboard::arrow(void (GameLogic::*aiming)(), double powerChange) {
+    act(aiming);
+    power(powerChange);
+}
+
+void Keyboard::turn(double angle) {
+    if (menu_.isHidden()) {
+        match_.turnAimBy(angle);
+    }
+}
+
+void Keyboard::raise(double angle) {
+    if (menu_.isHidden()) {
+        match_.raiseAimBy(angle);
+    }
+}
+
+void Keyboard::power(double change) {
+    if (menu_.isHidden()) {
+        match_.changePower(change);
+    }
 }
 
 void Keyboard::act(void (GameLogic::*operation)()) {

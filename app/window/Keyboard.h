@@ -24,6 +24,15 @@ public:
     Q_INVOKABLE void pressRight();
     Q_INVOKABLE void pressUp();
     Q_INVOKABLE void pressDown();
+    // For those who have turned them on.
+    Q_INVOKABLE void pressFineLeft();
+    Q_INVOKABLE void pressFineRight();
+    Q_INVOKABLE void pressFineUp();
+    Q_INVOKABLE void pressFineDown();
+    Q_INVOKABLE void pressTakeBack();
+    Q_INVOKABLE void pressPageUp(); // only a power that is set by hand
+    Q_INVOKABLE void pressPageDown();
+
     Q_INVOKABLE void pressExitFullScreen(); // acts in every state
 
 signals:
@@ -31,6 +40,11 @@ signals:
 
 private:
     void act(void (GameLogic::*operation)());
+    void turn(double angle);   // rad, of the aim
+    void raise(double angle);  // rad
+    void power(double change); // percent, if it is set by hand
+    // An arrow key aims, or changes a power that is set by hand.
+    void arrow(void (GameLogic::*aiming)(), double powerChange);
 
     GameLogic& match_;
     const OpenMenu& menu_;

@@ -29,8 +29,6 @@ SceneView::~SceneView() = default;
 void SceneView::setView(ContentView* view) {
     view_ = view;
     drawing_->pictures = std::make_unique<Pictures>(view_->resources());
-    copyScene(view_->gameLogic().scene, 1, drawing_->frame);
-    drawing_->pictures->announce(drawing_->frame); // read while the window is being made
     ticks_ = view_->gameLogic().onTick([this] { matchTicked(); });
     connect(&view_->changes(), &MatchChanges::changed, this, &SceneView::requestFrame);
     emit viewChanged();
@@ -113,13 +111,22 @@ void SceneView::reportLater(const std::string& problem) {
 void SceneView::copyFrame(const QQuickWindow& window) {
     drawing_->size = window.size() * window.effectiveDevicePixelRatio();
     copyScene(view_->gameLogic().scene, tickFraction(), drawing_->frame);
+    // The menu, which nearly hides the arena, need not wait for it, and not for the reading of its pictures.
+    drawing_->waits = std::exchange(drawing_->isFirst, false) && !view_->openMenu().isHidden();
+    if (drawing_->waits) {
+        drawing_->pictures->announce(drawing_->frame);
+    }
     view_->changes().hold();
     pacer_->frameBegan();
+    if (drawing_->waits) {
+        pacer_->request();
+    }
 }
 
 void SceneView::drawFrame(QQuickWindow& window) {
     Drawing& drawing = *drawing_;
-    if (drawing.failed || window.rendererInterface()->graphicsApi() != QSGRendererInterface::OpenGL) {
+    if (drawing.waits || drawing.failed ||
+        window.rendererInterface()->graphicsApi() != QSGRendererInterface::OpenGL) {
         return;
     }
     window.beginExternalCommands();

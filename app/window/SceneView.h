@@ -47,6 +47,8 @@ private:
         std::unique_ptr<Pictures> pictures;
         std::unique_ptr<Renderer> renderer;
         bool failed = false;
+        bool isFirst = true; // no picture has been shown yet
+        bool waits = false;  // the arena is left out of this one
     };
 
     void attach(QQuickWindow& window);

@@ -8,6 +8,8 @@
 #include <ctime>
 #include <vector>
 
+#include <unistd.h>
+
 namespace vorbel::bench {
 
 // Milliseconds on the clock on the wall, and of all processor cores together.
@@ -49,7 +51,17 @@ private:
     std::vector<double> cpu_;
 };
 
+// On a terminal only: what is measured now, and how much of it is done. The next row takes its place.
+inline void progress(const char* what, int done, int all) {
+    if (isatty(STDERR_FILENO) != 0) {
+        std::fprintf(stderr, "\r\033[Kmeasuring %s: %d of %d\r", what, done + 1, all);
+    }
+}
+
 inline void printRow(const char* what, double value, const char* unit) {
+    if (isatty(STDERR_FILENO) != 0) {
+        std::fputs("\033[K", stderr);
+    }
     std::printf("%-56s %10.2f %s\n", what, value, unit);
 }
 

@@ -47,6 +47,7 @@ bool measureDrawing(const Resources& resources) {
     Timings redrawn;
     Timings unchanged;
     for (int tick = 0; tick < ticks; ++tick) {
+        progress("13 balls", tick, ticks);
         arena.step();
         changed.add(timedDraw(*changes, arena.frame(0.5), target));
         if (tick % ticksBetweenFullRedraws == 0) {
@@ -80,6 +81,9 @@ int main(int argc, char** argv) {
     using namespace vorbel::bench;
     if (argc == 3 && std::string_view(argv[1]) == gameArgument) {
         return runGame(argv[0], std::strtod(argv[2], nullptr));
+    }
+    if (argc == 3 && std::string_view(argv[1]) == emptyArgument) {
+        return runEmptyWindow(argv[0], std::strtod(argv[2], nullptr));
     }
     return measure(argc, argv);
 }

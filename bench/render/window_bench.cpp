@@ -23,7 +23,8 @@ namespace vorbel::bench {
 
 namespace {
 
-constexpr int shownFor = 5000;      // ms, each part
+constexpr int shownFor = 5000; // ms, each part
+constexpr int windowParts = 5;
 constexpr int places = 13;          // that balls are thrown from
 constexpr double againAfter = 2500; // ms: until then all balls roll
 
@@ -138,6 +139,7 @@ int measureWindow(const Resources& resources) {
     }
     view.openMenu().setMenuScreen(MenuScreen::hidden);
     view.appear();
+    progress("the window, waiting", 0, 1);
     run(*window, false, [] {});
 
     Moment start = Moment::now();
@@ -147,7 +149,9 @@ int measureWindow(const Resources& resources) {
     printRow("    pictures meanwhile", frames, "");
 
     std::vector<std::pair<int, FrameCost>> rolling;
+    int part = 0;
     for (const int balls : {0, 1, 3, 13}) {
+        progress("the window", part++, windowParts);
         rolling.emplace_back(balls, measureRolling(*window, view.gameLogic().scene, balls));
     }
     std::vector<double> switches;
@@ -163,6 +167,7 @@ int measureWindow(const Resources& resources) {
     printRow("language switch, until it is shown", median(switches), "ms");
 
     QObject::disconnect(window, nullptr, window->findChild<QObject*>(QStringLiteral("arena")), nullptr);
+    progress("the window", part++, windowParts);
     start = Moment::now();
     frames = run(*window, true, [] {});
     const FrameCost score =

@@ -11,8 +11,9 @@ namespace vorbel {
 class SystemSound {
 public:
     virtual ~SystemSound() = default;
-    virtual void play() = 0; // from the start; ignored while it is still sounding
-    virtual void stop() = 0; // silent and rewound; harmless when it is not sounding
+    virtual void play() = 0;                  // from the start; ignored while it is still sounding
+    virtual void setVolume(float volume) = 0; // 0…1, at first 1; also while it sounds
+    virtual void stop() = 0;                  // silent and rewound; harmless when it is not sounding
 };
 
 // A sound file that is decoded while it plays.

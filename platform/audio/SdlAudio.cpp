@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cmath>
 
 namespace vorbel {
 
@@ -23,6 +24,11 @@ public:
         if (!isSounding()) {
             channel_ = Mix_PlayChannel(-1, chunk_.get(), 0);
         }
+    }
+
+    void setVolume(float volume) override {
+        const float loudness = std::clamp(volume, 0.0F, 1.0F) * static_cast<float>(MIX_MAX_VOLUME);
+        Mix_VolumeChunk(chunk_.get(), static_cast<int>(std::lround(loudness)));
     }
 
     void stop() override {

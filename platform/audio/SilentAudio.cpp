@@ -6,6 +6,7 @@ namespace {
 
 class SilentSound final : public SystemSound {
     void play() override {}
+    void setVolume(float /*volume*/) override {}
     void stop() override {}
 };
 

@@ -45,6 +45,10 @@ void BatchDrawer::begin(QOpenGLExtraFunctions& gl, std::span<const Instance> ins
         refill(gl, GL_UNIFORM_BUFFER, views_[i], &views[i], 1);
     }
     refill(gl, GL_UNIFORM_BUFFER, lights_, &lights, 1);
+    bindLights(gl);
+}
+
+void BatchDrawer::bindLights(QOpenGLExtraFunctions& gl) {
     gl.glBindBufferBase(GL_UNIFORM_BUFFER, binding::lightBlock, lights_.id());
 }
 

@@ -26,6 +26,7 @@ public:
     // What all draws until the next call take their instances, their views and their light from.
     void begin(QOpenGLExtraFunctions& gl, std::span<const Instance> instances, const Views& views,
                const LightUniforms& lights);
+    void bindLights(QOpenGLExtraFunctions& gl); // those of the last begin
     void setView(QOpenGLExtraFunctions& gl, Eye eye);
     void draw(QOpenGLExtraFunctions& gl, Pass pass, std::span<const Batch> batches);
 

@@ -36,10 +36,9 @@ glm::vec4 rowOf(const glm::mat4& world, int row) {
 }
 
 // A box that glows has edges, so that it is seen on any ground.
-float markOf(const DrawItem& item) {
+bool hasDarkEdges(const DrawItem& item) {
     const auto* box = std::get_if<Box>(&item.shape);
-    const bool glows = item.material.emission != colors::black;
-    return item.material.seams ? 1 : glows && box != nullptr && box->chamferRadius == 0 ? 2 : 0;
+    return item.material.emission != colors::black && box != nullptr && box->chamferRadius == 0;
 }
 
 Instance instanceFor(const DrawItem& item, const glm::mat4& world) {
@@ -47,7 +46,7 @@ Instance instanceFor(const DrawItem& item, const glm::mat4& world) {
     const Color diffuse = material.picture.empty() ? material.diffuse : colors::white;
     return {{rowOf(world, 0), rowOf(world, 1), rowOf(world, 2)},
             glm::vec4(linearLight(diffuse), diffuse.alpha * item.opacity),
-            glm::vec4(linearLight(material.emission), markOf(item))};
+            glm::vec4(linearLight(material.emission), hasDarkEdges(item) ? 1 : 0)};
 }
 
 MirrorFloor placedFloor(const DrawItem& item, const Viewpoint& camera) {

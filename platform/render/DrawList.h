@@ -14,7 +14,7 @@ namespace vorbel {
 struct Instance {
     glm::vec4 worldRows[3]; // the upper three rows of the world matrix
     glm::vec4 diffuse;      // linear light; w: alpha times opacity
-    glm::vec4 emission;     // linear light; w: 1 when the surface has seams, 2 when it has dark edges
+    glm::vec4 emission;     // linear light; w: 1 when the surface has dark edges
 };
 
 // The way in which things are drawn.

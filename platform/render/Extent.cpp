@@ -93,8 +93,8 @@ Extent mirrored(Extent extent, const glm::vec4& plane) {
 }
 
 PixelRect Perspective::bounds(const Extent& extent) const {
-    std::array<glm::vec3, 32> seen{};
-    std::array<glm::vec3, 32> hidden{};
+    std::array<glm::vec3, Extent::mostPoints> seen{};
+    std::array<glm::vec3, Extent::mostPoints> hidden{};
     std::size_t seenCount = 0;
     std::size_t hiddenCount = 0;
     const float closest = -(zNear + extent.margin);

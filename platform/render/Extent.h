@@ -11,7 +11,8 @@ namespace vorbel {
 
 // The convex hull of the points, and all that is within `margin` of it.
 struct Extent {
-    std::array<glm::vec3, 32> points{}; // in the arena's frame, metres
+    static constexpr std::size_t mostPoints = 40; // a box and its shadow
+    std::array<glm::vec3, mostPoints> points{};   // in the arena's frame, metres
     std::size_t count = 0;
     float margin = 0; // metres
 

@@ -69,6 +69,7 @@ public:
         frame_.spot.reset();
         frame_.camera = {};
         frame_.background = scene.background;
+        frame_.balls.clear();
         addNode(*scene.root, Mat4(1), 1);
         frame_.items.resize(itemCount_);
     }
@@ -90,12 +91,30 @@ private:
                              static_cast<float>(camera.zNear), static_cast<float>(camera.zFar)};
         }
         const Mat4 scaled = glm::scale(world, node.scale);
-        if (node.geometry) {
+        if (node.geometry && !addBall(node, *node.geometry, scaled, opacity)) {
             addItem(node, *node.geometry, scaled, opacity);
         }
         for (const Node::Ptr& child : node.children()) {
             addNode(*child, scaled, opacity);
         }
+    }
+
+    // False when it is none.
+    bool addBall(const Node& node, const Geometry& geometry, const Mat4& world, double opacity) {
+        const Material& material = geometry.material;
+        const auto* sphere = std::get_if<Sphere>(&geometry.shape);
+        const bool isOpaque = opacity * static_cast<double>(material.diffuse.alpha) >= 1;
+        if (sphere == nullptr || !material.seams || !isOpaque || !material.picture.empty() ||
+            frame_.balls.size() == mostBalls) {
+            return false;
+        }
+        const double scale = glm::length(Vec3(world[0]));
+        DrawnBall& ball = frame_.balls.emplace_back();
+        ball = {&node, glm::vec3(world[3]), static_cast<float>(sphere->radius * scale),
+                glm::mat3(glm::dmat3(world) / scale)};
+        (material.unlit ? ball.emission : ball.diffuse) = linearLight(material.diffuse);
+        ball.emission += linearLight(material.emission);
+        return true;
     }
 
     // Over the item that was there before, so that its memory is used again.

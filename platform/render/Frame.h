@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include <glm/mat3x3.hpp>
 #include <glm/mat4x4.hpp>
 #include <glm/vec3.hpp>
 
@@ -33,6 +34,19 @@ struct DrawItem {
     return item.opacity * item.material.diffuse.alpha < 1;
 }
 
+// An opaque sphere with seams. Balls are drawn over the finished picture of all the rest, in closed form.
+struct DrawnBall {
+    const void* node = nullptr; // as that of an item
+    glm::vec3 centre{0};        // metres
+    float radius = 0;           // metres
+    glm::mat3 orientation{1};   // from the ball's frame to the arena's
+    glm::vec3 diffuse{0};       // linear light
+    glm::vec3 emission{0};      // linear light
+    bool operator==(const DrawnBall&) const = default;
+};
+
+inline constexpr std::size_t mostBalls = 64; // further spheres with seams are items, without seams
+
 // The one spot light that is drawn.
 struct SpotLight {
     glm::vec3 position{0};         // metres
@@ -59,7 +73,8 @@ struct Viewpoint {
 
 struct Frame {
     std::vector<DrawItem> items; // in the order of the scene, depth first
-    glm::vec3 ambient{0};        // linear light that reaches every surface; all ambient lights added
+    std::vector<DrawnBall> balls;
+    glm::vec3 ambient{0}; // linear light that reaches every surface; all ambient lights added
     std::optional<SpotLight> spot;
     Viewpoint camera;
     Color background = colors::black;

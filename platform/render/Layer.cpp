@@ -4,38 +4,7 @@
 
 namespace vorbel {
 
-namespace {
-
-constexpr int partFloats = 4;   // left, lower, right, upper edge in the layer: fractions of it
-constexpr int offsetFloats = 2; // see the shader
-constexpr int pieceFloats = partFloats + offsetFloats;
-
-void setAttribute(QOpenGLExtraFunctions& gl, GLuint location, int components, int first) {
-    const auto* offset = reinterpret_cast<const void*>( // the call's way to say a number
-        static_cast<std::uintptr_t>(first) * sizeof(float));
-    gl.glVertexAttribPointer(location, components, GL_FLOAT, GL_FALSE, pieceFloats * sizeof(float), offset);
-    gl.glEnableVertexAttribArray(location);
-    gl.glVertexAttribDivisor(location, 1);
-}
-
-} // namespace
-
-std::unique_ptr<Layer> Layer::create(std::string& error) {
-    auto encode = ShaderProgram::create(shaders::pieceVertex, shaders::encodeFragment, "", error);
-    return encode ? std::unique_ptr<Layer>(new Layer(std::move(*encode), currentGl())) : nullptr;
-}
-
-Layer::Layer(ShaderProgram encode, QOpenGLExtraFunctions& gl)
-    : encode_(std::move(encode)),
-      pieces_(newBuffer(gl)),
-      pieceArray_(newVertexArray(gl)),
-      emptyArray_(newVertexArray(gl)) {
-    gl.glBindVertexArray(pieceArray_.id());
-    gl.glBindBuffer(GL_ARRAY_BUFFER, pieces_.id());
-    setAttribute(gl, 0, partFloats, 0);
-    setAttribute(gl, 1, offsetFloats, partFloats);
-    gl.glBindVertexArray(0);
-}
+Layer::Layer(QOpenGLExtraFunctions& gl) : emptyArray_(newVertexArray(gl)) {}
 
 bool Layer::resize(QOpenGLExtraFunctions& gl, int width, int height) {
     if (width == width_ && height == height_) {
@@ -50,29 +19,9 @@ bool Layer::resize(QOpenGLExtraFunctions& gl, int width, int height) {
     return true;
 }
 
-void Layer::put(QOpenGLExtraFunctions& gl, std::span<const Piece> pieces, GLuint sheet) {
-    places_.clear();
-    const auto w = static_cast<float>(width_);
-    const auto h = static_cast<float>(height_);
-    for (const Piece& piece : pieces) {
-        const PixelRect& part = piece.part;
-        places_.insert(places_.end(),
-                       {static_cast<float>(part.left) / w, 1 - static_cast<float>(part.top) / h,
-                        static_cast<float>(part.right) / w, 1 - static_cast<float>(part.bottom) / h,
-                        static_cast<float>(piece.left - part.left),
-                        static_cast<float>(piece.bottom - part.bottom + height_ - 1)});
-    }
+void Layer::beginDrawing(QOpenGLExtraFunctions& gl) const {
     gl.glBindFramebuffer(GL_FRAMEBUFFER, picture_.framebuffer.id());
     gl.glViewport(0, 0, width_, height_);
-    gl.glDisable(GL_CULL_FACE);
-    gl.glActiveTexture(GL_TEXTURE0 + binding::pictureUnit);
-    gl.glBindTexture(GL_TEXTURE_2D, sheet);
-    gl.glBindBuffer(GL_ARRAY_BUFFER, pieces_.id());
-    gl.glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(places_.size() * sizeof(float)), places_.data(),
-                    GL_STREAM_DRAW);
-    encode_.use(gl);
-    gl.glBindVertexArray(pieceArray_.id());
-    gl.glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(pieces.size()));
 }
 
 void Layer::show(QOpenGLExtraFunctions& gl, GLuint framebuffer) {

@@ -28,8 +28,19 @@ LightTable makeLightTable() {
     return light;
 }
 
+// Of light in 0…1. A table, as a power for every component of every picture took a twentieth of the start; its
+// steps are even in the square root, which is nearly the encoding: half a step of 255 off at most.
 uchar encodedByte(float light) {
-    return static_cast<uchar>(std::lround(255 * encodedLight(light)));
+    constexpr std::size_t steps = 4096;
+    static const std::array<uchar, steps> table = [] {
+        std::array<uchar, steps> encoded{};
+        for (std::size_t i = 0; i < steps; ++i) {
+            const float root = static_cast<float>(i) / (steps - 1);
+            encoded[i] = static_cast<uchar>(std::lround(255 * encodedLight(root * root)));
+        }
+        return encoded;
+    }();
+    return table[static_cast<std::size_t>(std::lround(std::sqrt(light) * (steps - 1)))];
 }
 
 // Multiplies the light, not its encoding, by alpha; only the pixels of the outline cost time.

@@ -1,9 +1,13 @@
 #include "platform/render/Renderer.h"
 
+#include "platform/render/BallPainter.h"
 #include "platform/render/Layer.h"
 #include "platform/render/RegionPainter.h"
 #include "platform/render/ShadowMap.h"
 #include "platform/render/Sheet.h"
+#include "platform/render/Stage.h"
+
+#include "platform/render/ColorSpace.h"
 
 #include <QSurfaceFormat>
 
@@ -27,7 +31,7 @@ std::string contextProblem() {
            std::to_string(version.first) + "." + std::to_string(version.second) + ".";
 }
 
-constexpr int sheetHeight = 64; // pixels: the sheet is as wide as the picture, and lower to save memory
+constexpr int sheetHeight = 32; // pixels: the sheet is as wide as the picture, and lower to save memory
 
 // Unites what is nearer than that many pixels are worth.
 constexpr long pictureOverhead = 1500;
@@ -41,10 +45,14 @@ struct Renderer::Parts {
     Redraw redraw = Redraw::changes;
     std::unique_ptr<BatchDrawer> drawer;
     std::unique_ptr<RegionPainter> painter;
-    std::unique_ptr<Layer> layer;
+    std::unique_ptr<BallPainter> ballPainter;
+    std::unique_ptr<Stage> stage;
+    std::optional<Layer> layer;
     Sheet sheet;
     ShadowMap shadows;
     TrackedFrame tracked;
+    TrackedBalls balls;
+    BallPlan ballPlan;
     DrawList list;
     BatchPlan plan;
     std::vector<PixelRect> regions;
@@ -58,7 +66,8 @@ struct Renderer::Parts {
     void planPicture(const Damage& damage);
     void beginDrawer(QOpenGLExtraFunctions& gl);
     void drawSheet(QOpenGLExtraFunctions& gl, std::size_t first, std::size_t end);
-    void redrawChanges(QOpenGLExtraFunctions& gl, const Damage& damage);
+    void redrawStage(QOpenGLExtraFunctions& gl, const Damage& damage);
+    void redrawLayer(QOpenGLExtraFunctions& gl);
 };
 
 std::unique_ptr<Renderer> Renderer::create(Pictures& pictures, std::string& error, Redraw redraw) {
@@ -68,8 +77,9 @@ std::unique_ptr<Renderer> Renderer::create(Pictures& pictures, std::string& erro
     }
     QOpenGLExtraFunctions& gl = currentGl();
     auto painter = RegionPainter::create(error);
-    auto layer = Layer::create(error);
-    if (!painter || !layer) {
+    auto ballPainter = BallPainter::create(error);
+    auto stage = Stage::create(error);
+    if (!painter || !ballPainter || !stage) {
         return nullptr;
     }
     Sheet sheet;
@@ -83,7 +93,9 @@ std::unique_ptr<Renderer> Renderer::create(Pictures& pictures, std::string& erro
     parts->redraw = redraw;
     parts->drawer = std::make_unique<BatchDrawer>(pictures);
     parts->painter = std::move(painter);
-    parts->layer = std::move(layer);
+    parts->ballPainter = std::move(ballPainter);
+    parts->stage = std::move(stage);
+    parts->layer.emplace(gl);
     parts->sheet = std::move(sheet);
     return std::unique_ptr<Renderer>(new Renderer(std::move(parts)));
 }
@@ -132,7 +144,6 @@ void Renderer::Parts::planPicture(const Damage& damage) {
     batches.clear();
     for (const Piece& piece : pieces) {
         batches.push_back(chooseBatches(plan, list, tracked, piece.part));
-        effort.pixels += piece.part.area();
     }
 }
 
@@ -145,10 +156,9 @@ void Renderer::Parts::beginDrawer(QOpenGLExtraFunctions& gl) {
     views[1] = list.floor ? mirroredView(frame, list, aspectRatio) : views[0];
     views[2].viewProjection = tracked.frustum().viewProjection();
     drawer->begin(gl, plan.instances(), views, lightUniforms(frame, tracked.frustum()));
-    gl.glClearColor(views[0].background.r, views[0].background.g, views[0].background.b, 1);
 }
 
-// Draws the pieces from `first` to before `end`, which share a sheet, and puts them into the layer.
+// Draws the pieces from `first` to before `end`, which share a sheet, and puts them onto the stage.
 void Renderer::Parts::drawSheet(QOpenGLExtraFunctions& gl, std::size_t first, std::size_t end) {
     PixelRect used;
     for (std::size_t i = first; i < end; ++i) {
@@ -156,16 +166,15 @@ void Renderer::Parts::drawSheet(QOpenGLExtraFunctions& gl, std::size_t first, st
     }
     gl.glEnable(GL_DEPTH_TEST);
     gl.glEnable(GL_SCISSOR_TEST);
-    sheet.beginDrawing(gl);
-    gl.glScissor(used.left, used.bottom, used.width(), used.height());
-    gl.glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
+    sheet.beginDrawing(gl, used, glm::vec4(linearLight(tracked.frame().background), 1));
     drawer->setView(gl, Eye::camera);
     for (std::size_t i = first; i < end; ++i) {
         painter->paint(gl, pieces[i], tracked.view(), batches[i], plan, *drawer);
     }
     gl.glDisable(GL_DEPTH_TEST);
     gl.glDisable(GL_SCISSOR_TEST);
-    layer->put(gl, std::span(pieces).subspan(first, end - first), sheet.resolve(gl, used));
+    sheet.resolve(gl, used);
+    stage->put(gl, std::span(pieces).subspan(first, end - first), sheet);
 }
 
 // The list must follow every frame, also one in which nothing that is seen has changed.
@@ -177,7 +186,7 @@ void Renderer::Parts::followItems(const Damage& damage) {
     }
 }
 
-void Renderer::Parts::redrawChanges(QOpenGLExtraFunctions& gl, const Damage& damage) {
+void Renderer::Parts::redrawStage(QOpenGLExtraFunctions& gl, const Damage& damage) {
     plan.begin(list, tracked.bounds());
     planShadows(gl, damage);
     planPicture(damage);
@@ -192,6 +201,27 @@ void Renderer::Parts::redrawChanges(QOpenGLExtraFunctions& gl, const Damage& dam
         drawSheet(gl, first, end);
         first = end;
     }
+}
+
+void Renderer::Parts::redrawLayer(QOpenGLExtraFunctions& gl) {
+    if (!balls.whole() && balls.regions().empty()) {
+        return;
+    }
+    for (const PixelRect& region : balls.regions()) {
+        effort.pixels += region.area();
+    }
+    if (balls.whole()) {
+        effort.pixels = static_cast<long>(tracked.view().width) * tracked.view().height;
+    }
+    ballPlan.make(balls, tracked);
+    gl.glDisable(GL_DEPTH_TEST);
+    gl.glDisable(GL_SCISSOR_TEST);
+    gl.glDisable(GL_CULL_FACE);
+    drawer->bindLights(gl);
+    drawer->setView(gl, Eye::camera);
+    shadows.bind(gl);
+    layer->beginDrawing(gl);
+    ballPainter->paint(gl, ballPlan, *stage);
 }
 
 namespace {
@@ -216,6 +246,8 @@ void setDefaults(QOpenGLExtraFunctions& gl) {
     gl.glBlendEquation(GL_FUNC_ADD);
     gl.glBindSampler(binding::pictureUnit, 0);
     gl.glBindSampler(binding::shadowUnit, 0);
+    gl.glBindSampler(binding::shadedUnit, 0);
+    gl.glBindSampler(binding::nearnessUnit, 0);
 }
 
 void releaseBindings(QOpenGLExtraFunctions& gl) {
@@ -225,7 +257,9 @@ void releaseBindings(QOpenGLExtraFunctions& gl) {
     gl.glBindBuffer(GL_ARRAY_BUFFER, 0);
     gl.glBindBufferBase(GL_UNIFORM_BUFFER, binding::viewBlock, 0);
     gl.glBindBufferBase(GL_UNIFORM_BUFFER, binding::lightBlock, 0);
-    for (const GLint unit : {binding::shadowUnit, binding::pictureUnit}) {
+    gl.glBindBufferBase(GL_UNIFORM_BUFFER, binding::ballBlock, 0);
+    for (const GLint unit :
+         {binding::nearnessUnit, binding::shadedUnit, binding::shadowUnit, binding::pictureUnit}) {
         gl.glActiveTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
         gl.glBindTexture(GL_TEXTURE_2D, 0);
     }
@@ -243,15 +277,18 @@ void Renderer::draw(const Frame& frame, unsigned targetFramebuffer, int width, i
     if (parts.layer->resize(gl, width, height) || parts.redraw == Redraw::all) {
         parts.tracked.forget();
     }
+    parts.stage->resize(gl, width, height);
     parts.effort = {};
     const Damage& damage = parts.tracked.follow(frame, width, height);
     parts.followItems(damage);
+    parts.balls.follow(frame.balls, parts.tracked, damage);
     if (damage.nothing()) {
         parts.tracked.markDrawn();
     } else if (parts.sheet.resize(gl, width, std::min(height, sheetHeight))) {
-        parts.redrawChanges(gl, damage);
+        parts.redrawStage(gl, damage);
         parts.tracked.markDrawn();
     }
+    parts.redrawLayer(gl);
     gl.glDisable(GL_DEPTH_TEST);
     gl.glDisable(GL_SCISSOR_TEST);
     parts.layer->show(gl, targetFramebuffer);

@@ -18,7 +18,7 @@ std::string completeSource(std::string_view source, std::string_view defines) {
     for (std::string name; names >> name;) {
         text += "#define " + name + "\n";
     }
-    return text.append(shaders::viewBlock).append(source);
+    return text.append(shaders::viewBlock).append(shaders::lightBlock).append(source);
 }
 
 std::string firstLine(const char* text) {
@@ -54,9 +54,16 @@ void bindNames(QOpenGLExtraFunctions& gl, GLuint program) {
     };
     bindBlock("View", binding::viewBlock);
     bindBlock("Lights", binding::lightBlock);
+    bindBlock("Balls", binding::ballBlock);
     gl.glUseProgram(program);
-    gl.glUniform1i(gl.glGetUniformLocation(program, "picture"), binding::pictureUnit);
-    gl.glUniform1i(gl.glGetUniformLocation(program, "shadowMap"), binding::shadowUnit);
+    const auto bindTexture = [&](const char* name, GLint unit) {
+        gl.glUniform1i(gl.glGetUniformLocation(program, name),
+                       unit); // does nothing with names that are not there
+    };
+    bindTexture("picture", binding::pictureUnit);
+    bindTexture("shadowMap", binding::shadowUnit);
+    bindTexture("shaded", binding::shadedUnit);
+    bindTexture("nearness", binding::nearnessUnit);
     gl.glUseProgram(0);
 }
 

@@ -13,8 +13,11 @@ namespace vorbel {
 namespace binding {
 inline constexpr GLuint viewBlock = 0;
 inline constexpr GLuint lightBlock = 1;
+inline constexpr GLuint ballBlock = 2;
 inline constexpr GLint pictureUnit = 0;
 inline constexpr GLint shadowUnit = 1;
+inline constexpr GLint shadedUnit = 2;
+inline constexpr GLint nearnessUnit = 3;
 } // namespace binding
 
 class ShaderProgram {

@@ -10,6 +10,20 @@ layout(std140) uniform View {
 };
 )";
 
+const std::string_view lightBlock = R"(
+layout(std140) uniform Lights {
+    mat4 lightView;       // from the arena to the light, which looks along -z
+    vec4 ambient;
+    vec4 lightPosition;
+    vec4 lightDirection;
+    vec4 lightStrength;
+    vec4 cone;            // cosines of the inner and the outer half angle; zw: texel of the shadow map, as tangents
+    vec4 shadowPlace;     // from tangents of angles at the light to texture coordinates: times xy, plus zw
+    vec4 shadowDepth;     // 1 / near, 1 / (1 / near - 1 / far), bias in metres, radius of the blur as a tangent
+    vec4 shadowOffset[16]; // xy: texture coordinates, zw: the same as tangents of angles at the light
+};
+)";
+
 const std::string_view surfaceVertex = R"(
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
@@ -29,9 +43,6 @@ flat out vec4 surfaceEmission;
 out vec3 shapePoint;
 flat out vec3 halfSize;
 
-// Turns the seams away from where the light ends on a ball that is not turned itself.
-const mat3 tilt = mat3(0.9004, 0.4350, 0.0, -0.3590, 0.7431, 0.5646, 0.2456, -0.5084, 0.8253);
-
 void main() {
     vec4 point = vec4(position, 1.0);
     worldPosition = vec3(dot(worldX, point), dot(worldY, point), dot(worldZ, point));
@@ -45,25 +56,11 @@ void main() {
                      length(vec3(worldX.z, worldY.z, worldZ.z)));
     halfSize = 0.5 * size;
     shapePoint = position * size;
-    if (emission.w == 1.0) {
-        shapePoint = tilt * shapePoint;
-    }
     gl_Position = viewProjection * vec4(worldPosition, 1.0);
 }
 )";
 
 const std::string_view surfaceFragment = R"(
-layout(std140) uniform Lights {
-    mat4 lightView;       // from the arena to the light, which looks along -z
-    vec4 ambient;
-    vec4 lightPosition;
-    vec4 lightDirection;
-    vec4 lightStrength;
-    vec4 cone;            // cosines of the inner and the outer half angle; zw: texel of the shadow map, as tangents
-    vec4 shadowPlace;     // from tangents of angles at the light to texture coordinates: times xy, plus zw
-    vec4 shadowDepth;     // 1 / near, 1 / (1 / near - 1 / far), bias in metres
-    vec4 shadowOffset[16]; // xy: texture coordinates, zw: the same as tangents of angles at the light
-};
 uniform sampler2D picture;
 uniform highp sampler2DShadow shadowMap;
 
@@ -71,10 +68,14 @@ in vec3 worldPosition;
 in vec3 worldNormal;
 in vec2 pictureUv;
 flat in vec4 surfaceDiffuse;
-flat in vec4 surfaceEmission; // w: 1 when the surface has seams, 2 when it has dark edges
-in vec3 shapePoint;           // in the frame of the shape, metres; of balls with seams, turned
+flat in vec4 surfaceEmission; // w: 1 when the surface has dark edges
+in vec3 shapePoint;           // in the frame of the shape, metres
 flat in vec3 halfSize;        // of a box, metres
+#ifndef DEPTH
 layout(location = 0) out vec4 color;
+layout(location = 1) out vec4 shadedColor; // as if the spot light did not reach the surface
+layout(location = 2) out vec4 nearness;    // see Sheet; two numbers, whose sum it is
+#endif
 
 // Share of the light that reaches the surface. The depth that each sample is compared with follows the plane of
 // the surface, so that steep surfaces do not shadow themselves.
@@ -98,7 +99,8 @@ float visibility(vec3 normal) {
     return sum / 16.0;
 }
 
-vec3 incomingLight() {
+// Of the spot light, what reaches the surface.
+vec3 spotLight() {
     vec3 normal = normalize(gl_FrontFacing ? worldNormal : -worldNormal);
     vec3 toLight = normalize(lightPosition.xyz - worldPosition);
     float spot = smoothstep(cone.y, cone.x, dot(-toLight, lightDirection.xyz)) * max(dot(normal, toLight), 0.0);
@@ -107,26 +109,7 @@ vec3 incomingLight() {
         spot *= visibility(normal);
     }
 #endif
-    return ambient.rgb + lightStrength.rgb * spot;
-}
-
-// How many pixels a ball is across here, from how much of its unit sphere the pixel covers.
-float pixelsAcross(vec3 point) {
-    float facing = dot(normalize(worldNormal), normalize(eye.xyz - worldPosition));
-    return 2.0 * inversesqrt(max(length(cross(dFdx(point), dFdy(point))) * facing, 1e-8));
-}
-
-// Leather panels, eight on a ball, every other one a little darker, with sewn seams between them: so that the
-// turning of a ball is seen. All together they have the colour of the ball. Small balls are plain.
-float leather() {
-    const float seamHalfWidth = 0.05; // of the radius; the seams are 0.15 of the ball
-    vec3 point = normalize(shapePoint);
-    float share = smoothstep(12.0, 20.0, pixelsAcross(point));
-    vec3 pixel = max(fwidth(point), vec3(0.01));
-    vec3 side = clamp(point / pixel * 2.0, -1.0, 1.0);
-    vec3 seam = (min(abs(point) + pixel * 0.5, seamHalfWidth) - min(abs(point) - pixel * 0.5, seamHalfWidth)) / pixel;
-    float pattern = (1.0 + 0.09 * side.x * side.y * side.z) * (1.0 - 0.3 * max(max(seam.x, seam.y), seam.z));
-    return mix(1.0, pattern / (1.0 - 0.3 * 0.15), share);
+    return lightStrength.rgb * spot;
 }
 
 // A glowing bar is darker along its edges: it stands out from a ground that is as light as itself.
@@ -150,25 +133,31 @@ void main() {
         discard;
     }
 #else
+    vec3 lit = surface.rgb;
+    vec3 shaded = surface.rgb;
 #ifndef UNLIT
-    surface.rgb *= incomingLight();
+    shaded *= ambient.rgb;
+    lit = shaded + surface.rgb * spotLight();
 #endif
-    surface.rgb = min(surface.rgb + surfaceEmission.rgb, 1.0);
-#ifndef MIRROR
-    if (surfaceEmission.w > 1.5) {
-        surface.rgb *= edging();
-    } else if (surfaceEmission.w > 0.5) {
-        surface.rgb *= leather();
-    }
+    lit = min(lit + surfaceEmission.rgb, 1.0);
+    shaded = min(shaded + surfaceEmission.rgb, 1.0);
+#ifdef MIRROR
+    float share = background.w;
 #else
-    surface.rgb *= background.w;
+    float share = surfaceEmission.w > 0.5 ? edging() : 1.0;
 #endif
+    color = vec4(lit * share, surface.a);
+    shadedColor = vec4(shaded * share, surface.a);
+    float near = min(0.5 * gl_FragCoord.w, 1.0);
+    float coarse = floor(near * 256.0) / 256.0;
+    nearness = vec4(coarse, near - coarse, 0.0, surface.a);
 #ifdef FLOOR
     // What is there already is the mirror image. Both fade into the background before the floor ends.
     float seen = 1.0 - smoothstep(0.2, 0.6, length(worldPosition - eye.xyz) / eye.w);
-    surface = vec4(mix(background.rgb, surface.rgb, seen), seen);
+    color = vec4(mix(background.rgb, color.rgb, seen), seen);
+    shadedColor = vec4(mix(background.rgb, shadedColor.rgb, seen), seen);
+    nearness.a = 0.0;
 #endif
-    color = surface;
 #endif
 }
 )";
@@ -182,7 +171,12 @@ void main() {
 
 const std::string_view fillFragment = R"(
 layout(location = 0) out vec4 color;
-void main() { color = vec4(background.rgb * background.w, 1.0); }
+layout(location = 1) out vec4 shadedColor;
+layout(location = 2) out vec4 nearness;
+void main() {
+    color = shadedColor = vec4(background.rgb * background.w, 1.0);
+    nearness = vec4(0.0);
+}
 )";
 
 const std::string_view pieceVertex = R"(
@@ -196,17 +190,28 @@ void main() {
 }
 )";
 
+const std::string_view encoding = R"(
+vec3 encoded(vec3 light) {
+    return mix(light * 12.92, 1.055 * pow(light, vec3(1.0 / 2.4)) - 0.055, step(0.0031308, light));
+}
+)";
+
 const std::string_view encodeFragment = R"(
 uniform sampler2D picture;
+uniform sampler2D shaded;
+uniform sampler2D nearness;
 flat in ivec2 shift;
 layout(location = 0) out vec4 color;
+layout(location = 1) out vec4 shadedColor;
 void main() {
-    ivec2 pixel = ivec2(gl_FragCoord.xy); // the layer is upside down
-    vec3 linear = texelFetch(picture, ivec2(shift.x + pixel.x, shift.y - pixel.y), 0).rgb;
-    vec3 encoded = mix(linear * 12.92, 1.055 * pow(linear, vec3(1.0 / 2.4)) - 0.055, step(0.0031308, linear));
+    ivec2 pixel = ivec2(gl_FragCoord.xy); // the stage is upside down
+    ivec2 place = ivec2(shift.x + pixel.x, shift.y - pixel.y);
     // Half a step of noise, the same in every frame, hides the steps of slow gradients.
     float noise = fract(52.9829189 * fract(dot(gl_FragCoord.xy, vec2(0.06711056, 0.00583715)))) - 0.5;
-    color = vec4(encoded + noise / 255.0, 1.0);
+    vec2 parts = texelFetch(nearness, place, 0).rg;
+    float near = clamp(parts.r + parts.g, 0.0, 1.0) * 255.0;
+    color = vec4(encoded(texelFetch(picture, place, 0).rgb) + noise / 255.0, floor(near) / 255.0);
+    shadedColor = vec4(encoded(texelFetch(shaded, place, 0).rgb) + noise / 255.0, fract(near));
 }
 )";
 

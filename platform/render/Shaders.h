@@ -5,8 +5,10 @@
 
 namespace vorbel::shaders {
 
-// In front of every shader: the uniform block that many of them share.
+// In front of every shader: the uniform blocks that many of them share, and the function that encodes light.
 extern const std::string_view viewBlock;
+extern const std::string_view lightBlock;
+extern const std::string_view encoding;
 
 // Surfaces. Switches: PICTURE (else one colour), UNLIT, MIRROR (image in the floor), FLOOR, DEPTH
 // (no colour is written).
@@ -21,5 +23,13 @@ extern const std::string_view copyFragment; // a picture, turned upside down
 // Rectangles, one an instance.
 extern const std::string_view pieceVertex;
 extern const std::string_view encodeFragment; // linear light to dithered sRGB
+
+// Rectangles of the layer, one an instance: the stage with the shadows of the balls on it, and the balls
+// themselves. The fragment shaders need the reading of the stage before them. Switch: MIRROR.
+extern const std::string_view regionVertex;
+extern const std::string_view ballVertex;
+extern const std::string_view stageReading;
+extern const std::string_view regionFragment;
+extern const std::string_view ballFragment;
 
 } // namespace vorbel::shaders

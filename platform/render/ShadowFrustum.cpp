@@ -26,6 +26,12 @@ glm::mat4 lightView(const SpotLight& spot) {
     return glm::lookAt(spot.position, spot.position + spot.direction, up);
 }
 
+float blurOf(const SpotLight& spot, const ShadowFrustum& frustum) {
+    const float texel =
+        2 * std::max(frustum.halfWidth.x, frustum.halfWidth.y) / static_cast<float>(spot.shadowMapSize);
+    return (spot.shadowRadius + 1) * texel;
+}
+
 ShadowFrustum shadowFrustum(const SpotLight& spot, const LightBounds& bounds) {
     ShadowFrustum frustum;
     frustum.view = lightView(spot);
@@ -59,11 +65,27 @@ float reach(const glm::vec3& point, const SpotLight& spot, const ShadowFrustum& 
     return lightHeight > 0 && fall > shallow ? std::max(lightHeight / fall, 1.0F) : end;
 }
 
+// Without margin: of something round, the box around it.
+Extent hull(const Extent& extent) {
+    if (extent.margin == 0) {
+        return extent;
+    }
+    Extent box;
+    for (const float x : {-extent.margin, extent.margin}) {
+        for (const float y : {-extent.margin, extent.margin}) {
+            for (const float z : {-extent.margin, extent.margin}) {
+                box.add(extent.points[0] + glm::vec3(x, y, z)); // only what is round has a margin
+            }
+        }
+    }
+    return box;
+}
+
 } // namespace
 
 Extent shadowExtent(const Extent& caster, const SpotLight& spot, const ShadowFrustum& frustum, float blur,
                     const std::optional<glm::vec4>& floor) {
-    Extent extent;
+    Extent extent = floor ? hull(caster) : caster;
     for (const glm::vec3& corner : caster.corners()) {
         const float factor = reach(corner, spot, frustum, floor);
         const glm::vec3 path = (corner - spot.position) * factor;

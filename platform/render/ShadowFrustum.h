@@ -21,8 +21,11 @@ struct ShadowFrustum {
 // whole steps, so that a moving ball seldom changes it.
 [[nodiscard]] ShadowFrustum shadowFrustum(const SpotLight& spot, const LightBounds& bounds);
 
-// Where the shadow of something ends: on the floor (its plane as in DrawList), and when there is none, at the
-// end of the frustum. The shadow is between there and the thing. `blur` is the radius over which shadows are
+// The radius over which shadows are softened, as a tangent at the light: of the samples and of their filtering.
+[[nodiscard]] float blurOf(const SpotLight& spot, const ShadowFrustum& frustum);
+
+// Something and its shadow, which ends on the floor (its plane as in DrawList), and when there is none, at the
+// end of the frustum. `blur` is the radius over which shadows are
 // softened, a tangent at the light.
 [[nodiscard]] Extent shadowExtent(const Extent& caster, const SpotLight& spot, const ShadowFrustum& frustum,
                                   float blur, const std::optional<glm::vec4>& floor);

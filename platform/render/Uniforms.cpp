@@ -83,7 +83,8 @@ LightUniforms lightUniforms(const Frame& frame, const ShadowFrustum& frustum) {
                    width / static_cast<float>(spot.shadowMapSize)};
     lights.shadowPlace = {1.0F / width, 0.5F - frustum.middle / width};
     const float inverseNear = 1 / frustum.zNear;
-    lights.shadowDepth = {inverseNear, 1 / (inverseNear - 1 / frustum.zFar), spot.shadowBias, 0};
+    lights.shadowDepth = {inverseNear, 1 / (inverseNear - 1 / frustum.zFar), spot.shadowBias,
+                          spot.castsShadow ? blurOf(spot, frustum) : 0};
     const int count = std::clamp(spot.shadowSampleCount, 1, shadowSamples);
     for (int i = 0; i < shadowSamples; ++i) {
         const glm::vec2 offset =

@@ -13,7 +13,7 @@ struct Material {
     Color emission = colors::black; // light that the surface gives off, whatever the lights do
     bool doubleSided = false;       // drawn from behind as well
     bool unlit = false;             // shown in its own colours, without lights and shadows
-    bool seams = false;             // of leather panels with faint seams; for spheres only
+    bool seams = false;             // of leather panels with faint seams; for opaque spheres only
     bool operator==(const Material&) const = default;
 };
 

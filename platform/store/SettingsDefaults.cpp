@@ -19,6 +19,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto longestWait = 5s;
+// Of a lock without a name in it: whoever made it was killed before he could write his own.
+constexpr auto forsakenAfter = 4s;
 
 // The toolkit's own wait doubles its pauses, and so would starve beside a game that writes often.
 void waitFor(QLockFile& lock) {
@@ -83,6 +85,7 @@ void SettingsDefaults::atomically(const std::function<void()>& change) {
     fs::create_directories(folder_, ignored);
     const fs::path file = folder_ / ".lock";               // no key's: a dot in a key is written as %2E
     QLockFile lock(QString::fromStdString(file.string())); // unlocks itself
+    lock.setStaleLockTime(forsakenAfter);
     if (canBeLock(file)) {
         waitFor(lock);
     }

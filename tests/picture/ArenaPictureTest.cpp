@@ -2,8 +2,10 @@
 // VORBEL_UPDATE_PICTURES=1, look at the new references and store them with the change.
 #include "engine/GameLogic.h"
 #include "platform/random/RandomSource.h"
+#include "platform/render/ColorSpace.h"
 #include "platform/render/Offscreen.h"
 #include "platform/render/TrackedFrame.h"
+#include "platform/render/Uniforms.h"
 #include "rules/CourtGeometry.h"
 #include "scene/Ball.h"
 
@@ -13,6 +15,7 @@
 #include <filesystem>
 
 #include <QImage>
+#include <glm/geometric.hpp>
 #include <gtest/gtest.h>
 
 namespace vorbel {
@@ -113,6 +116,49 @@ TEST(ArenaPicture, MiddleOfAnEnd) {
     pointer->opacity = 1;
     pointer->setEulerAngles({0, 0.2, 0});
     expectLooksLike(drawArena(scene), "middle-of-an-end");
+}
+
+// Of relative luminances, as for the contrast of texts.
+double contrast(double a, double b) {
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+double luminance(QRgb pixel) {
+    const auto light =
+        linearLight({static_cast<float>(qRed(pixel)) / 255, static_cast<float>(qGreen(pixel)) / 255,
+                     static_cast<float>(qBlue(pixel)) / 255});
+    return static_cast<double>(glm::dot(light, glm::vec3(0.2126F, 0.7152F, 0.0722F)));
+}
+
+TEST(ArenaPicture, FarBallsStandOutFromTheCourt) {
+    struct Shot {
+        BallColor color;
+        int height;
+    };
+    constexpr std::array<Shot, 4> shots = {
+        {{BallColor::jack, 800}, {BallColor::red, 800}, {BallColor::blue, 800}, {BallColor::red, 2160}}};
+    for (const auto& [color, height] : shots) {
+        const int width = height * 3 / 2;
+        Scene scene = makeArena();
+        const Vec3 place(0.8, court::restingHeight, -11.5);
+        scene.root->addChild(makeBall(color, place, PhysicsBody::Type::fixed));
+        const Frame frame = makeFrame(scene, 1);
+        std::string error;
+        const QImage image = renderToImage(frame, width, height, Resources(), error);
+        const glm::vec4 clip =
+            sceneView(frame, {}, static_cast<float>(width) / static_cast<float>(height)).viewProjection *
+            glm::vec4(glm::vec3(place) + glm::vec3(0, 0.015F, 0), 1);
+        const int x = static_cast<int>((clip.x / clip.w + 1) / 2 * static_cast<float>(width));
+        const int y = static_cast<int>((1 - clip.y / clip.w) / 2 * static_cast<float>(height));
+        const double ground = luminance(image.pixel(x - height / 40, y));
+        double darkest = 1;
+        for (int i = 2; i < height / 66; ++i) {
+            darkest = std::min(darkest, luminance(image.pixel(x - i, y)));
+        }
+        EXPECT_GE(contrast(darkest, ground), 3) << "the outline and the court " << static_cast<int>(color);
+        EXPECT_GE(contrast(darkest, luminance(image.pixel(x, y))), color == BallColor::blue ? 1.5 : 2.5)
+            << "the outline and the ball";
+    }
 }
 
 // On the court: 12 m below the light.

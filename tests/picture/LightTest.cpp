@@ -83,6 +83,60 @@ TEST_F(LightTest, BallShadesTheGroundBelowItAndNotBesideIt) {
                 encoded(greyLight * (0.15 + 1.5 * std::cos(std::atan(1.0 / 12)))), 2 * colorStep);
 }
 
+// Balls with seams are drawn in closed form, over the picture of all else.
+class BallLightTest : public LightTest {
+protected:
+    Node::Ptr addBall(double radius, const Vec3& place) {
+        return add(Sphere{radius}, {.diffuse = grey, .seams = true}, place);
+    }
+};
+
+TEST_F(BallLightTest, ShadesTheGroundBelowItAndNotBesideIt) {
+    addGround();
+    addBall(0.3, {0, 1.2, 0});
+    const QImage image = draw();
+    EXPECT_NEAR(encodedAt(image, {0, 0, 0}), encoded(greyLight * 0.15), colorStep);
+    EXPECT_NEAR(encodedAt(image, {1, 0, 0}),
+                encoded(greyLight * (0.15 + 1.5 * std::cos(std::atan(1.0 / 12)))), 2 * colorStep);
+}
+
+TEST_F(BallLightTest, ShadowIsThatOfAnyOtherSphere) {
+    addGround();
+    const Node::Ptr ball = addBall(0.3, {0.8, 1.5, -0.4});
+    const QImage closed = draw();
+    ball->geometry->material.seams = false;
+    const QImage mapped = draw();
+    for (double x = 0.2; x < 1.6; x += 0.02) {
+        EXPECT_NEAR(encodedAt(closed, {x, 0, -0.4}), encodedAt(mapped, {x, 0, -0.4}), 0.12) << "at " << x;
+    }
+}
+
+TEST_F(BallLightTest, ShadesBallsBelowIt) {
+    addGround();
+    addBall(0.3, {0, 0.3, 0});
+    const double inTheLight = lightAt(draw(), {0, 0.55, 0.16});
+    addBall(0.3, {0, 1.6, 0});
+    EXPECT_LT(lightAt(draw(), {0, 0.55, 0.16}), 0.3 * inTheLight);
+}
+
+TEST_F(BallLightTest, IsDarkInTheShadowOfABox) {
+    addGround();
+    const Node::Ptr ball = addBall(0.3, {0, 0.3, 0});
+    const double inTheLight = lightAt(draw(), {0, 0.55, 0.16});
+    add(Box{2, 0.1, 2}, {.diffuse = grey}, {0, 4, 0});
+    EXPECT_LT(lightAt(draw(), {0, 0.55, 0.16}), 0.3 * inTheLight);
+}
+
+TEST_F(BallLightTest, IsHiddenByWhatStandsInFrontOfIt) {
+    addGround();
+    const Node::Ptr box = add(Box{1, 1, 0.2}, {.diffuse = grey}, {0, 0.5, 1});
+    const QImage without = draw();
+    addBall(0.2, {0, 0.2, 0.2});
+    EXPECT_EQ(colorAt(draw(), {0, 0.5, 1.1}), colorAt(without, {0, 0.5, 1.1}));
+    scene.root->removeChild(*box);
+    EXPECT_GT(lightAt(draw(), {0, 0.39, 0.26}), 0.1);
+}
+
 TEST_F(LightTest, EdgesOfShadowsAreSoft) {
     addGround();
     add(Box{1, 0.02, 1}, {.diffuse = grey}, {-0.5, 1, 0.6}); // its shadow ends at x = 0

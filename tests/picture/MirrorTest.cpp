@@ -21,6 +21,15 @@ TEST_F(MirrorTest, BallIsFaintlySeenInTheFloor) {
     EXPECT_NEAR(lightAt(draw(), {0, -0.8, 0}), 0.05, 0.004);
 }
 
+TEST_F(MirrorTest, BallWithSeamsIsFaintlySeenInTheFloor) {
+    Material material = glowing();
+    material.seams = true;
+    add(Sphere{0.4}, material, {0, 0.8, 0});
+    const QImage image = draw();
+    EXPECT_NEAR(lightAt(image, {0, -0.8, 0}), 0.05, 0.012);
+    EXPECT_LT(lightAt(image, {0, -1.4, 0}), 0.001);
+}
+
 TEST_F(MirrorTest, FloorWithoutReflectivityMirrorsNothing) {
     floor->geometry->shape = Floor{0};
     add(Sphere{0.4}, glowing(), {0, 0.8, 0});

@@ -9,6 +9,7 @@ public:
     explicit SpySound(std::string& log) : log_(log) {}
     void play() override { log_ += "play "; }
     void stop() override { log_ += "stop "; }
+    void setVolume(float /*volume*/) override {}
 
 private:
     std::string& log_;

@@ -42,7 +42,7 @@ std::int64_t matchesOf(const LadderSettings& settings) {
     return std::int64_t{cells} * settings.matchesPerCell;
 }
 
-WinTable playLadder(const LadderSettings& settings) {
+WinTable playLadder(const LadderSettings& settings, const std::function<void()>& onMatch) {
     const std::int64_t total = matchesOf(settings);
     std::array<std::atomic<int>, cells> wins{};
     std::atomic<std::int64_t> next = 0;
@@ -54,6 +54,7 @@ WinTable playLadder(const LadderSettings& settings) {
                                .blue = allDifficulties[cell % levels]});
             match.play();
             wins[cell] += match.game().redScore > match.game().blueScore ? 1 : 0;
+            onMatch();
         }
     };
     playTogether(playMatches, settings.jobs);

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <iosfwd>
 
 namespace vorbel::sim {
@@ -21,7 +22,9 @@ struct LadderSettings {
 
 [[nodiscard]] std::int64_t matchesOf(const LadderSettings& settings);
 
-[[nodiscard]] WinTable playLadder(const LadderSettings& settings);
+// `onMatch` is called after each match, from any of the threads.
+[[nodiscard]] WinTable playLadder(
+    const LadderSettings& settings, const std::function<void()>& onMatch = [] {});
 
 // Share of the matches between two different levels that the first won, on either side; 0…1.
 [[nodiscard]] double winRate(const WinTable& wins, int matchesPerCell, AIDifficulty level,

@@ -3,6 +3,7 @@
 #include "tools/sim/Ladder.h"
 #include "tools/sim/MatchPlayer.h"
 #include "tools/sim/Options.h"
+#include "tools/sim/Progress.h"
 #include "tools/sim/Signature.h"
 #include "tools/sim/Trace.h"
 
@@ -34,14 +35,19 @@ bool playMatches(const Options& options, std::ostream& out, std::ostream& errors
     return true;
 }
 
-bool run(const Options& options, std::ostream& out, std::ostream& errors) {
+WinTable playLadder(const LadderSettings& settings, std::ostream* terminal) {
+    Progress progress(terminal, matchesOf(settings));
+    return playLadder(settings, [&progress] { progress.addOne(); });
+}
+
+bool run(const Options& options, std::ostream& out, std::ostream& errors, std::ostream* terminal) {
     if (options.help) {
         out << helpText();
     } else if (options.signature) {
         out << std::hex << matchSignature() << '\n';
     } else if (options.ladder) {
         const LadderSettings settings = ladderSettings(options);
-        writeLadder(out, playLadder(settings), settings.matchesPerCell);
+        writeLadder(out, playLadder(settings, terminal), settings.matchesPerCell);
     } else {
         return playMatches(options, out, errors);
     }
@@ -50,13 +56,14 @@ bool run(const Options& options, std::ostream& out, std::ostream& errors) {
 
 } // namespace
 
-int simulate(std::span<const char* const> arguments, std::ostream& out, std::ostream& errors) {
+int simulate(std::span<const char* const> arguments, std::ostream& out, std::ostream& errors,
+             std::ostream* terminal) {
     const auto parsed = parseOptions(arguments);
     if (const auto* problem = std::get_if<std::string>(&parsed)) {
         errors << "vorbel-sim: " << *problem << '\n';
         return usageError;
     }
-    if (!run(std::get<Options>(parsed), out, errors)) {
+    if (!run(std::get<Options>(parsed), out, errors, terminal)) {
         return EXIT_FAILURE;
     }
     if (!out.flush()) {

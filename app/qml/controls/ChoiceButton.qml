@@ -18,12 +18,18 @@ T.RadioButton {
     font.pixelSize: Theme.caption
     font.bold: selected
 
+    // Called by assistive technology; handlers of signals would list both actions once more.
+    function accessiblePressAction() {
+        clicked();
+    }
+    function accessibleToggleAction() {
+        clicked();
+    }
+
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.name: text
     Accessible.ignored: !enabled // the display while the menu is open
-    Accessible.onPressAction: clicked()
-    Accessible.onToggleAction: clicked()
 
     contentItem: ButtonText {
         text: control.text

@@ -10,10 +10,14 @@ T.Button {
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     focusPolicy: Qt.TabFocus
 
+    // Called by assistive technology; a handler of the signal would list the action once more.
+    function accessiblePressAction() {
+        clicked();
+    }
+
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.name: text
-    Accessible.onPressAction: clicked()
 
     contentItem: ButtonText {
         text: control.text

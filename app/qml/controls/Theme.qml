@@ -8,7 +8,7 @@ QtObject {
     readonly property color yellow: "#ffd60a"
     readonly property color orange: "#ff9f0a"
     readonly property color link: "#7db8ff"
-    readonly property color panel: Qt.rgba(0, 0, 0, 0.75)
+    readonly property color panel: Qt.rgba(0, 0, 0, solidPanels ? 1 : 0.75)
     readonly property color shade: Qt.rgba(0, 0, 0, 0.45) // under a panel: all its texts stay legible over white
     readonly property color bar: "#16161f"
     readonly property color menu: "#22222e"
@@ -30,6 +30,7 @@ QtObject {
     readonly property int title: 24
     readonly property int hugeTitle: 42
 
+    property bool solidPanels: false // by option: nothing shines through; the window sets it
     property real point: 1 // in pixels of the window, which sets it
     readonly property real thinLine: Math.max(1, 1 / point) // a pixel at least
 

@@ -1,4 +1,5 @@
 // The heads-up display over the arena.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Vorbel
 
@@ -49,10 +50,27 @@ Item {
         rightToLeft: display.hud.rightToLeft
         onAiToggled: on => display.settings.blueAIOn = on
     }
+    Repeater {
+        model: display.view.options.courtButtons ? 1 : 0
+
+        CourtButtons {
+            anchors { right: parent?.right; rightMargin: Theme.margin; verticalCenter: parent?.verticalCenter }
+            keyboard: display.view.keyboard
+            texts: display.view.menu.texts
+        }
+    }
     Column {
         anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.margin }
         spacing: Theme.gap
 
+        SoundNote {
+            anchors.horizontalCenter: parent.horizontalCenter
+            note: display.view.soundNotes.note
+        }
+        SwitchPrompt {
+            anchors.horizontalCenter: parent.horizontalCenter
+            prompt: display.view.menu.open ? "" : display.view.oneSwitch.prompt
+        }
         PowerBar {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: display.hud.powerShown

@@ -19,11 +19,6 @@ Panel {
         Rectangle {
             id: bar
 
-            // What assistive technology reads of a progress bar.
-            readonly property int minimumValue: 0
-            readonly property int maximumValue: 100
-            readonly property int value: Math.round(panel.power)
-
             width: 400
             height: 22
             radius: height / 2
@@ -31,7 +26,8 @@ Panel {
             border.color: Theme.white(0.2)
 
             Accessible.role: Accessible.ProgressBar
-            Accessible.name: panel.caption
+            // With the value: the toolkit asks no progress bar for one.
+            Accessible.name: panel.caption + ": " + Math.round(panel.power) + "%"
             Accessible.ignored: !enabled // the display while the menu is open
 
             Rectangle {

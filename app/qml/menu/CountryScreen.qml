@@ -17,6 +17,9 @@ MenuBackdrop {
     }
     Flickable {
         id: view
+
+        readonly property bool switchGroup: true
+
         contentWidth: width
         contentHeight: grid.height + 2 * grid.y
         clip: true

@@ -17,11 +17,15 @@ Text {
     activeFocusOnTab: true
     Layout.alignment: Qt.AlignHCenter
 
+    // Called by assistive technology; a handler of the signal would list the action once more.
+    function accessiblePressAction() {
+        clicked();
+    }
+
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.role: Accessible.Link
     Accessible.name: text
-    Accessible.onPressAction: clicked()
 
     HoverHandler {
         id: hover

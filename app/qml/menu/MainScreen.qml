@@ -35,6 +35,8 @@ MenuBackdrop {
         Layout.topMargin: -Theme.padding
     }
     GridLayout {
+        readonly property bool switchGroup: true
+
         columns: 5
         columnSpacing: Theme.gap
         rowSpacing: Theme.gap
@@ -110,6 +112,11 @@ MenuBackdrop {
         MenuButton {
             text: screen.texts.about
             onClicked: screen.menu.openAbout()
+        }
+        MenuButton {
+            text: screen.menu.options.title
+            visible: screen.menu.options.inMainMenu
+            onClicked: screen.menu.options.open()
         }
         MenuButton {
             text: screen.texts.exit

@@ -7,6 +7,7 @@ FocusScope {
     id: overlay
 
     required property MenuModel menu
+    required property LeaveQuestion leaving
 
     visible: menu.open
     LayoutMirroring.enabled: menu.rightToLeft
@@ -80,6 +81,23 @@ FocusScope {
         DiaryScreen {
             anchors.fill: parent
             menu: overlay.menu
+        }
+    }
+    Repeater {
+        model: overlay.menu.screen === MenuModel.Options ? 1 : 0
+
+        OptionsScreen {
+            anchors.fill: parent
+            options: overlay.menu.options
+            texts: overlay.menu.texts
+        }
+    }
+    Repeater {
+        model: overlay.menu.screen === MenuModel.Leave ? 1 : 0
+
+        LeaveScreen {
+            anchors.fill: parent
+            leaving: overlay.leaving
         }
     }
     Repeater {

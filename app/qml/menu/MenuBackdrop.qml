@@ -1,5 +1,8 @@
 // The dark ground of every screen of the menu, with the screen's content in its middle. What lies under it gets no
 // mouse; the keyboard is with the screen, at first with the control to go on with.
+//
+// A closed screen is destroyed first; what its Repeaters made follows one pass of the event loop later. A choice that
+// is made in between still reaches their bindings, which therefore ask for "screen?.".
 import QtQuick
 import QtQuick.Layouts
 import Vorbel

@@ -1,4 +1,4 @@
-// The menu bar with the one game menu. In full screen it is hidden, and slides in when the pointer touches the upper
+// The menu bar: the game menu, and the options. In full screen it is hidden, and slides in when the pointer touches the upper
 // edge or F10 opens the menu.
 import QtQuick
 import QtQuick.Templates as T
@@ -11,7 +11,8 @@ Item {
 
     signal closed() // the menu: the keyboard is free again
 
-    readonly property bool revealed: !shell.inFullScreen || hover.hovered || gameMenu.visible
+    readonly property bool menuOpen: gameMenu.visible || optionsMenu.visible
+    readonly property bool revealed: !shell.inFullScreen || hover.hovered || menuOpen
     readonly property real coveredHeight: bar.y + bar.height // of the window
 
     height: revealed ? bar.height : 2
@@ -19,7 +20,10 @@ Item {
     LayoutMirroring.childrenInherit: true
 
     // A title that is destroyed with its bar crashes the program while assistive technology looks on.
-    Component.onDestruction: bar.takeMenu(0)
+    Component.onDestruction: {
+        bar.takeMenu(1);
+        bar.takeMenu(0);
+    }
 
     HoverHandler {
         id: hover
@@ -78,17 +82,36 @@ Item {
                 onTriggered: edge.shell.toggleFullScreenEmulation(false)
             }
         }
+        DropDownMenu {
+            id: optionsMenu
+
+            title: edge.shell.optionsTitle
+            font.family: Theme.fontFamily
+            mirroredLayout: edge.shell.rightToLeft
+            onClosed: edge.closed()
+
+            CommandItem {
+                text: edge.shell.optionsTitle + " …"
+                keys: "Ctrl+,"
+                onTriggered: edge.shell.requestOptions()
+            }
+        }
     }
 
     AnyLayoutShortcut {
         sequences: edge.shell.newGameKeys
-        enabled: !gameMenu.visible
+        enabled: !edge.menuOpen
         onActivated: edge.shell.requestNewGame()
     }
     AnyLayoutShortcut {
         sequences: edge.shell.fullScreenKeys
-        enabled: !gameMenu.visible
+        enabled: !edge.menuOpen
         onActivated: edge.shell.toggleFullScreenEmulation(false)
+    }
+    AnyLayoutShortcut {
+        sequences: ["Ctrl+,"]
+        enabled: !edge.menuOpen
+        onActivated: edge.shell.requestOptions()
     }
     Shortcut {
         sequence: "F10"

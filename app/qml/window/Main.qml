@@ -16,6 +16,7 @@ Window {
     minimumWidth: 1200
     minimumHeight: 800
     color: "#0d0d14"
+    onClosing: close => close.accepted = view.leaving.mayClose()
 
     Binding {
         target: Theme
@@ -27,6 +28,11 @@ Window {
         target: Theme
         property: "point"
         value: area.scale
+    }
+    Binding {
+        target: Theme
+        property: "solidPanels"
+        value: window.view.options.solidPanels
     }
     SceneView {
         id: scene
@@ -71,7 +77,12 @@ Window {
                 id: menu
                 anchors.fill: parent
                 menu: window.view.menu
+                leaving: window.view.leaving
             }
+        }
+        SwitchPrompt {
+            anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.margin }
+            prompt: window.view.menu.open ? window.view.oneSwitch.prompt : ""
         }
         GameMenuBar {
             id: gameMenu
@@ -80,7 +91,15 @@ Window {
             onClosed: game.forceActiveFocus(Qt.TabFocusReason) // so that its ring is shown again
         }
     }
+    SwitchFrame {
+        oneSwitch: window.view.oneSwitch
+    }
     GameKeys {
         keyboard: window.view.keyboard
+    }
+    OptionalKeys {
+        keyboard: window.view.keyboard
+        options: window.view.options
+        menuOpen: window.view.menu.open
     }
 }

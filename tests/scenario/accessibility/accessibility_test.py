@@ -155,6 +155,35 @@ class AccessibilityTest(unittest.TestCase):
         game.find("heading", EN["menu.rules"])
         wait_until(lambda: not game.names("menu item"), "the menu closes")
 
+    def test_a_key_pressed_twice_acts_twice(self):
+        game = self.start()
+        game.find("push button", EN["menu.startGame"])
+        game.key("Return")
+        game.find("heading", EN["menu.chooseCountry"])
+        self.go_to(EN["menu.back"], "shift+Tab")
+        game.key("Return")
+        game.find("heading", "VORBEL")
+        game.key("Return")
+        game.find("heading", EN["menu.chooseCountry"])
+
+    def test_a_key_held_for_long_acts_once(self):
+        game = self.start()
+        self.go_to(EN["menu.rules"])
+        game.hold("Return")
+        game.find("heading", EN["menu.rules"])
+        game.key("Return")
+        game.find("heading", "VORBEL")
+        for button in ("menu.startGame", "menu.play", "menu.play"):
+            game.press("push button", EN[button])
+        wait_until(lambda: game.names("alert") == [EN["msg.initial"]], "the match")
+        game.messages.clear()
+        game.hold("space")
+        game.tab()  # comes after all that the held key did
+        self.assertEqual(game.messages, [EN["msg.aimingHint"]])
+
+    def go_to(self, name, key="Tab"):
+        wait_until(lambda: self.game.tab(key)[1] == name, name)
+
     def test_the_game_ends_well_when_asked_to(self):
         game = self.start()
         game.press("push button", EN["menu.exit"])

@@ -142,6 +142,10 @@ class Game:
         """Presses keys as X names them ("space", "shift+Tab"), one after the other."""
         subprocess.run(["xdotool", "key", "--delay", "2", *keys], check=True, timeout=PATIENCE)
 
+    def hold(self, key, seconds=2):
+        """Keeps a key down. The desktop repeats it after 0.7 s, 25 times a second."""
+        subprocess.run(["xdotool", "keydown", key, "sleep", str(seconds), "keyup", key], check=True, timeout=PATIENCE)
+
     def tab(self, key="Tab"):
         """Moves the keyboard to the next control, and says which that is."""
         self.focus = None

@@ -161,8 +161,7 @@ class CareerTest(unittest.TestCase):
             text = entry.replace("%@", EN[result], 1).replace("%@", "1" if result == "diary.win" else "0")
             self.assertTrue(row.endswith(", " + text), f"{row}: {text}")
         self.picture("diary")
-        game.key("ctrl+n")
-        self.game.find("heading", "VORBEL")
+        self.go_on("VORBEL")
 
     def quit(self):
         self.choose(EN["menu.exit"])

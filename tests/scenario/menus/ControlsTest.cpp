@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QFileInfo>
+#include <QPointer>
 #include <QSet>
 #include <QTest>
 #include <QUrl>
@@ -286,6 +287,22 @@ TEST(LogoTest, AMissingLogoLeavesNoHoleAndNoError) {
     collect(
         without.menu(), [](QQuickItem& item) { return isOfType(item, "QQuickImage"); }, pictures);
     EXPECT_TRUE(pictures.empty());
+}
+
+// The buttons of a closed screen are destroyed one pass of the event loop after the screen itself.
+TEST_F(ControlsTest, WhatRemainsOfAClosedScreenBearsTheNextChoice) {
+    MenuChoices& choices = *game.view().menu()->choices();
+    for (const MenuScreen screen : {MenuScreen::main, MenuScreen::country, MenuScreen::bcClass}) {
+        game.open(screen);
+        const QPointer<QQuickItem> button = game.controls().front();
+        game.open(MenuScreen::rules);
+        EXPECT_FALSE(button.isNull());
+        choices.setClassIndex(choices.classIndex() == 0 ? 1 : 0);
+        choices.setLanguageIndex(choices.languageIndex() == 0 ? 1 : 0);
+        EXPECT_EQ(game.complaints(), QStringList()) << static_cast<int>(screen);
+        game.settle();
+        EXPECT_TRUE(button.isNull()) << "and is gone";
+    }
 }
 
 } // namespace vorbel

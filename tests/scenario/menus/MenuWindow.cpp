@@ -77,6 +77,28 @@ void MenuWindow::settle() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+void MenuWindow::wait(double seconds) {
+    platform_.queue.advance(seconds);
+    settle();
+}
+
+void MenuWindow::click(QQuickItem& item) {
+    QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, inScene(item).center().toPoint());
+    settle();
+}
+
+QQuickItem* MenuWindow::button(const QString& text) {
+    std::vector<QQuickItem*> found;
+    collect(
+        *window_->contentItem(),
+        [&](QQuickItem& item) {
+            return isOfType(item, "QQuickAbstractButton") && item.isEnabled() &&
+                   item.property("text") == text;
+        },
+        found);
+    return found.empty() ? nullptr : found.front();
+}
+
 void MenuWindow::press(Qt::Key key, int times) {
     for (int i = 0; i < times; ++i) {
         QTest::keyClick(window_, key);

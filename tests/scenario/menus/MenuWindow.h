@@ -24,6 +24,7 @@ public:
     [[nodiscard]] ContentView& view() { return view_; }
     [[nodiscard]] MemoryDefaults& defaults() { return defaults_; }
     [[nodiscard]] QQuickWindow& window() { return *window_; }
+    [[nodiscard]] VirtualQueue& queue() { return platform_.queue; }
     [[nodiscard]] QQuickItem& menu() const; // the overlay
 
     [[nodiscard]] QStringList complaints() const { return complaints_; } // of the QML engine
@@ -31,7 +32,10 @@ public:
     void setLanguage(AppLanguage language);
     void open(MenuScreen screen);
     void settle();                                           // lets everything that is due happen
+    void wait(double seconds);                               // of the game's clock
     void press(Qt::Key key, int times = 1);                  // in the window
+    void click(QQuickItem& item);                            // in its middle, with the mouse
+    [[nodiscard]] QQuickItem* button(const QString& text);   // that is seen and can be pressed, or null
     [[nodiscard]] QImage picture();                          // of the window
     void layOut() { static_cast<void>(picture()); }          // places are right only after drawing
     [[nodiscard]] QQuickItem* focus() const;                 // the control that has the keyboard

@@ -20,7 +20,7 @@ struct Shown {
 constexpr Shown screens[] = {
     {MenuScreen::main, "main"},          {MenuScreen::country, "country"}, {MenuScreen::bcClass, "class"},
     {MenuScreen::rules, "rules"},        {MenuScreen::about, "about"},     {MenuScreen::diary, "diary"},
-    {MenuScreen::matchResult, "result"},
+    {MenuScreen::matchResult, "result"}, {MenuScreen::options, "options"}, {MenuScreen::leave, "leave"},
 };
 
 std::string diaryOf(int entries) {

@@ -57,4 +57,29 @@ TEST_F(SpokenTest, EachClassIsDescribedByItsOwnRadioButton) {
     EXPECT_THAT(texts(QAccessible::RadioButton, QAccessible::Description), testing::IsSupersetOf(expected));
 }
 
+TEST_F(SpokenTest, ThePowerBarTellsThePower) {
+    game.open(MenuScreen::hidden);
+    MatchSetup(game.view().gameLogic()).state().aimState = AimState::aimingPower;
+    MatchSetup(game.view().gameLogic()).state().aimPower = 41.6;
+    const auto bars = spoken(QAccessible::ProgressBar);
+    ASSERT_EQ(bars.size(), 1u);
+    EXPECT_EQ(bars[0]->text(QAccessible::Name), QStringLiteral("Throw power: 42%"));
+}
+
+TEST_F(SpokenTest, AControlListsEachActionOnce) {
+    for (const auto& [screen, role] : {std::pair(MenuScreen::bcClass, QAccessible::RadioButton),
+                                       std::pair(MenuScreen::bcClass, QAccessible::PushButton),
+                                       std::pair(MenuScreen::about, QAccessible::Link),
+                                       std::pair(MenuScreen::main, QAccessible::CheckBox)}) {
+        game.open(screen);
+        const auto controls = spoken(role);
+        ASSERT_FALSE(controls.empty());
+        for (QAccessibleInterface* control : controls) {
+            const QStringList actions = control->actionInterface()->actionNames();
+            EXPECT_EQ(QStringList(actions).removeDuplicates(), 0)
+                << actions.join(QLatin1Char(' ')).toStdString();
+        }
+    }
+}
+
 } // namespace vorbel

@@ -78,6 +78,20 @@ bool alike(const QColor& a, const QColor& b) {
            std::abs(a.blue() - b.blue()) < tolerance;
 }
 
+bool alike(const QImage& a, const QImage& b) {
+    if (a.size() != b.size()) {
+        return false;
+    }
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y) && !alike(a.pixelColor(x, y), b.pixelColor(x, y))) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 bool waitUntil(const std::function<bool()>& condition, int milliseconds) {
     QElapsedTimer clock;
     clock.start();

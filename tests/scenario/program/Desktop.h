@@ -59,6 +59,9 @@ private:
 // Whether two colours are the same to the eye.
 [[nodiscard]] bool alike(const QColor& a, const QColor& b);
 
+// The same for two pictures: letters that were laid out anew differ by a level or two at their edges.
+[[nodiscard]] bool alike(const QImage& a, const QImage& b);
+
 // Looks again and again until the condition holds; false when it does not within the time.
 [[nodiscard]] bool waitUntil(const std::function<bool()>& condition, int milliseconds = patience);
 

@@ -64,6 +64,22 @@ TEST(StartTest, WhatElseTheToolkitGivesUpForIsSaidInOneLineAndStatus1) {
     EXPECT_FALSE(program.errors().contains(QStringLiteral("no display")));
 }
 
+TEST(StartTest, ALanguageOfAnotherScriptIsLeftWithoutAComplaint) {
+    const QTemporaryDir settings;
+    SettingsDefaults(std::filesystem::path(settings.path().toStdString()) / "vorbel")
+        .setText("boccia_language", "hi");
+    Program game({}, {{QStringLiteral("XDG_CONFIG_HOME"), settings.path()}});
+    const Desktop& desktop = Desktop::instance();
+    ASSERT_TRUE(desktop.focusGame()) << qUtf8Printable(game.errors());
+    constexpr QRect firstButton(470, 490, 260, 55);
+    ASSERT_TRUE(
+        waitUntil([&] { return alike(desktop.picture().pixelColor(300, 15), QColor(0x16, 0x16, 0x1f)); }));
+    desktop.press(QStringLiteral("shift+Tab"));
+    desktop.press(QStringLiteral("shift+Tab")); // from the first button over the switch to the last language
+    EXPECT_TRUE(desktop.pressUntilChanged(QStringLiteral("Return"), firstButton));
+    EXPECT_EQ(game.errors(), QString());
+}
+
 TEST(StartTest, AScreenshotIsAPictureOfTheArena) {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("arena.png"));

@@ -33,6 +33,9 @@ WindowManager::WindowManager() {
 WindowManager::~WindowManager() {
     process_.terminate();
     process_.waitForFinished(5'000);
+    // It leaves this behind, by which the next one would seem to be ready before it is.
+    outputOf(QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("-remove"),
+                                       QStringLiteral("_NET_SUPPORTING_WM_CHECK")});
 }
 
 bool WindowManager::isReady() const {

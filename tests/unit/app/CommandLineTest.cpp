@@ -37,6 +37,17 @@ TEST(CommandLineTest, KnowsItsOptions) {
     EXPECT_EQ(parse({"--screenshot", "arena.png"}).screenshot, "arena.png");
 }
 
+TEST(CommandLineTest, OptionsOfTheGameAreResetOrTurnedOnBeforeItIsPlayed) {
+    EXPECT_FALSE(parse({}).resetOptions);
+    EXPECT_FALSE(parse({}).oneSwitch);
+    const CommandLine reset = parse({"--reset-options"});
+    EXPECT_TRUE(reset.resetOptions);
+    EXPECT_FALSE(reset.oneSwitch);
+    EXPECT_EQ(reset.action, Action::play);
+    EXPECT_TRUE(parse({"--one-switch"}).oneSwitch);
+    EXPECT_EQ(parse({"--one-switch"}).action, Action::play);
+}
+
 TEST(CommandLineTest, ComplainsInOneLineAboutWhatItDoesNotUnderstand) {
     for (const auto& arguments : std::vector<std::vector<std::string>>{{"--bogus"},
                                                                        {"extra"},
@@ -54,8 +65,9 @@ TEST(CommandLineTest, ComplainsInOneLineAboutWhatItDoesNotUnderstand) {
 
 TEST(CommandLineTest, HelpNamesEveryOption) {
     const std::string help = CommandLine::helpText();
-    for (const char* option : {"--help", "--version", "--demo", "--screenshots", "--screenshot FILE",
-                               "--diagnose", "--verbose", "VORBEL_SPEED"}) {
+    for (const char* option :
+         {"--help", "--version", "--demo", "--screenshots", "--screenshot FILE", "--diagnose", "--verbose",
+          "--reset-options", "--one-switch", "VORBEL_SPEED"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
 }

@@ -1,5 +1,6 @@
 #include "app/window/LatinKeys.h"
 
+#include <QInputDevice>
 #include <QKeyEvent>
 
 #include <gtest/gtest.h>
@@ -10,20 +11,27 @@ namespace {
 
 constexpr quint32 placeOfN = 57;
 
-Qt::Key latinKey(int key, quint32 place) {
-    return latinKeyAt(QKeyEvent(QEvent::KeyPress, key, Qt::ControlModifier, place, 0, 0));
-}
-
 } // namespace
 
-TEST(LatinKeysTest, ALetterOfAnotherScriptStandsForTheLatinOneAtItsPlace) {
+class LatinKeysTest : public testing::Test {
+protected:
+    const QInputDevice keyboard{QString(), 1,
+                                QInputDevice::DeviceType::Keyboard}; // Qt would make one and keep it
+
+    [[nodiscard]] Qt::Key latinKey(int key, quint32 place) const {
+        return latinKeyAt(QKeyEvent(QEvent::KeyPress, key, Qt::ControlModifier, place, 0, 0, QString(), false,
+                                    1, &keyboard));
+    }
+};
+
+TEST_F(LatinKeysTest, ALetterOfAnotherScriptStandsForTheLatinOneAtItsPlace) {
     EXPECT_EQ(latinKey(0x0422, placeOfN), Qt::Key_N) << "Cyrillic";
     EXPECT_EQ(latinKey(0x039d, placeOfN), Qt::Key_N) << "Greek";
     EXPECT_EQ(latinKey(0x0649, placeOfN), Qt::Key_N) << "Arabic";
     EXPECT_EQ(latinKey(0x0410, 41), Qt::Key_F);
 }
 
-TEST(LatinKeysTest, EachRowEndsWhereItsLettersEnd) {
+TEST_F(LatinKeysTest, EachRowEndsWhereItsLettersEnd) {
     constexpr int yer = 0x042a;
     EXPECT_EQ(latinKey(yer, 23), Qt::Key(0));
     EXPECT_EQ(latinKey(yer, 24), Qt::Key_Q);
@@ -37,7 +45,7 @@ TEST(LatinKeysTest, EachRowEndsWhereItsLettersEnd) {
     EXPECT_EQ(latinKey(yer, 59), Qt::Key(0));
 }
 
-TEST(LatinKeysTest, WhatTheToolkitKnowsItselfIsLeftToIt) {
+TEST_F(LatinKeysTest, WhatTheToolkitKnowsItselfIsLeftToIt) {
     EXPECT_EQ(latinKey(Qt::Key_B, placeOfN), Qt::Key(0)) << "a Latin letter, at another place than usual";
     EXPECT_EQ(latinKey(Qt::Key_ydiaeresis, placeOfN), Qt::Key(0));
     EXPECT_EQ(latinKey(Qt::Key_Escape, placeOfN), Qt::Key(0));

@@ -17,7 +17,7 @@ namespace vorbel::test {
 
 // Texts of signs, placeholders and "XP" alone, which may read the same in every language.
 [[nodiscard]] inline bool isPlaceholdersAlone(std::string_view key) {
-    return key == "diary.entry.format" || key == "hud.tournament.format";
+    return key == "diary.entry.format" || key == "hud.tournament.format" || key == "number.decimalPoint";
 }
 
 class EachLanguage : public testing::TestWithParam<AppLanguage> {

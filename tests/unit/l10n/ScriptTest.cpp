@@ -9,9 +9,10 @@ namespace {
 
 using Scripts = EachLanguage;
 
-// Names and abbreviations that stay in Latin letters in every language.
-const std::set<std::string_view> latinEverywhere{"VORBEL", "vorbel-sim", "BC1", "BC2", "BC3", "BC4", "Qt",
-                                                 "OpenGL", "Bullet",     "SDL", "XP",  "3D",  "AI",  "OK"};
+// Names and abbreviations that stay in Latin letters in every language, those of keys among them.
+const std::set<std::string_view> latinEverywhere{"VORBEL", "vorbel-sim", "BC1", "BC2",   "BC3",       "BC4",
+                                                 "Qt",     "OpenGL",     "SDL", "XP",    "Bullet",    "3D",
+                                                 "AI",     "OK",         "M",   "Shift", "Backspace", "W"};
 
 std::set<Script> scriptsOf(AppLanguage language) {
     switch (language) {

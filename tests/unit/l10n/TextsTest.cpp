@@ -47,7 +47,9 @@ TEST_P(Texts, areComplete) {
 
 TEST_P(Texts, haveThePlaceholdersOfTheEnglishOnes) {
     for (const auto& [key, text] : texts) {
-        EXPECT_EQ(count(text, "%@"), count(english.at(key), "%@")) << key;
+        if (!key.starts_with("unit.")) { // whose forms QuantityTest counts
+            EXPECT_EQ(count(text, "%@"), count(english.at(key), "%@")) << key;
+        }
         EXPECT_EQ(count(text, "%"), count(text, "%@")) << key;
         EXPECT_EQ(key.ends_with(".format"), count(text, "%@") > 0) << key;
     }

@@ -1,5 +1,6 @@
 // The simulator as a program: its limits, what it says, its status.
 #include "tools/sim/Options.h"
+#include "tools/sim/Progress.h"
 #include "tools/sim/Simulator.h"
 
 #include <gtest/gtest.h>
@@ -50,6 +51,23 @@ TEST(SimulatorProgram, AnOddNumberOfMatchesOnTheLadderBecomesEven) {
     EXPECT_EQ(ladder({}).matchesPerCell, 100);
     EXPECT_EQ(ladder({"--matches", "6"}).matchesPerCell, 3);
     EXPECT_EQ(ladder({"--matches", "5"}).matchesPerCell, 3);
+}
+
+TEST(SimulatorProgram, TellsHowLongTheRestWillTake) {
+    EXPECT_EQ(progressText(0, 400, 0), "0 of 400 matches");
+    EXPECT_EQ(progressText(100, 400, 10), "100 of 400 matches, 30 s left");
+    EXPECT_EQ(progressText(10, 400, 20), "10 of 400 matches, 13 min left");
+}
+
+TEST(SimulatorProgram, LadderShowsItsProgressOnATerminalAndClearsItInTheEnd) {
+    std::ostringstream out;
+    std::ostringstream errors;
+    std::ostringstream terminal;
+    EXPECT_EQ(simulate(Arguments{"--ladder", "--matches", "2"}, out, errors, &terminal), 0);
+    EXPECT_TRUE(terminal.str().starts_with("\r\033[K0 of 16 matches")) << terminal.str();
+    EXPECT_TRUE(terminal.str().ends_with("\r\033[K"));
+    EXPECT_EQ(errors.str(), "");
+    EXPECT_EQ(out.str().find('\r'), std::string::npos);
 }
 
 TEST(SimulatorProgram, TheLargestLadderIsCounted) {

@@ -1,0 +1,55 @@
+// Every option of the game. Left as they are, they change nothing.
+#pragma once
+
+#include "l10n/TextKey.h"
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace vorbel {
+
+enum class Option : std::uint8_t {
+    powerPace,
+    fineAim,
+    switchOn,
+    switchPace,
+    switchAsks,
+    switchRest,
+    courtButtons,
+    controller,
+    clearPointer,
+    solidPanels,
+    mute,
+    crowdVolume,
+    effectVolume,
+    soundNotes,
+    menuPauses,
+    askToLeave,
+};
+
+// One of the values that an option can have.
+struct OptionChoice {
+    int value; // what is stored
+    // A key of the string table, or the text itself. A key that ends in ".format" shows the value, in thousands.
+    std::string_view label;
+};
+
+struct OptionRow {
+    Option option;
+    std::string_view name; // in the defaults, after their common prefix
+    TextKey group;         // rows of one group stand together
+    TextKey title;
+    TextKey help; // one sentence
+    std::span<const OptionChoice> choices;
+    int standard; // the value in the given game; one of the choices
+
+    // Whether it is simply off (0) or on (1).
+    [[nodiscard]] bool isSwitch() const { return choices.front().label.empty(); }
+};
+
+// In the order in which they are shown, which is that of Option.
+[[nodiscard]] std::span<const OptionRow> optionRows();
+[[nodiscard]] const OptionRow& rowOf(Option option);
+
+} // namespace vorbel

@@ -1,0 +1,129 @@
+#include "app/options/OptionsModel.h"
+
+#include "app/menu/OpenMenu.h"
+#include "app/options/Options.h"
+#include "app/settings/PlayerSettings.h"
+#include "app/text/Texts.h"
+
+#include <algorithm>
+
+namespace vorbel {
+
+namespace {
+
+const OptionRow& rowAt(int row) {
+    return optionRows()[static_cast<std::size_t>(row)];
+}
+
+QString headingOf(int row, AppLanguage language) {
+    const bool first = row == 0 || rowAt(row - 1).group != rowAt(row).group;
+    return first ? text(rowAt(row).group, language) : QString();
+}
+
+// 1500 is "1.5": a choice's value, in thousands.
+std::string inThousands(int value, AppLanguage language) {
+    std::string digits = std::to_string(value % 1000 + 1000).substr(1);
+    digits.erase(digits.find_last_not_of('0') + 1);
+    const std::string whole = std::to_string(value / 1000);
+    return digits.empty() ? whole : whole + std::string(L10n::t("number.decimalPoint", language)) + digits;
+}
+
+QString labelOf(const OptionChoice& choice, AppLanguage language) {
+    const std::string_view label = L10n::tNamed(choice.label, language);
+    return QString::fromStdString(choice.label.ends_with(".format")
+                                      ? L10n::fill(label, {inThousands(choice.value, language)})
+                                      : std::string(label));
+}
+
+QStringList choicesOf(const OptionRow& row, AppLanguage language) {
+    QStringList labels;
+    for (const OptionChoice& choice : row.choices) {
+        labels.append(labelOf(choice, language));
+    }
+    return labels;
+}
+
+int placeOf(const OptionRow& row, int value) {
+    return static_cast<int>(std::ranges::find(row.choices, value, &OptionChoice::value) -
+                            row.choices.begin());
+}
+
+} // namespace
+
+OptionsModel::OptionsModel(Options& options, const PlayerSettings& settings, OpenMenu& openMenu)
+    : options_(options), settings_(settings), openMenu_(openMenu) {
+    connect(&options_, &Options::changed, this, &OptionsModel::tellAll);
+    connect(&options_, &Options::changed, this, &OptionsModel::inMainMenuChanged);
+    connect(&settings_, &PlayerSettings::languageChanged, this, [this] {
+        tellAll();
+        emit languageChanged();
+    });
+}
+
+void OptionsModel::tellAll() {
+    emit dataChanged(index(0), index(rowCount() - 1));
+}
+
+int OptionsModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(optionRows().size());
+}
+
+QVariant OptionsModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const OptionRow& row = rowAt(index.row());
+    const AppLanguage language = settings_.selectedLanguage();
+    switch (role) {
+    case HeadingRole:
+        return headingOf(index.row(), language);
+    case TitleRole:
+        return text(row.title, language);
+    case HelpRole:
+        return text(row.help, language);
+    case IsSwitchRole:
+        return row.isSwitch();
+    case ChoicesRole:
+        return choicesOf(row, language);
+    case ChosenRole:
+        return placeOf(row, options_.value(row.option));
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> OptionsModel::roleNames() const {
+    return {{HeadingRole, "heading"},   {TitleRole, "title"},     {HelpRole, "help"},
+            {IsSwitchRole, "isSwitch"}, {ChoicesRole, "choices"}, {ChosenRole, "chosen"}};
+}
+
+QString OptionsModel::title() const {
+    return text("menu.options", settings_.selectedLanguage());
+}
+
+bool OptionsModel::isInMainMenu() const {
+    return options_.isOn(Option::switchOn);
+}
+
+void OptionsModel::choose(int row, int place) {
+    if (row < 0 || row >= rowCount()) {
+        return;
+    }
+    const OptionRow& option = rowAt(row);
+    if (place >= 0 && place < static_cast<int>(option.choices.size())) {
+        options_.set(option.option, option.choices[static_cast<std::size_t>(place)].value);
+    }
+}
+
+void OptionsModel::open() {
+    if (openMenu_.menuScreen() != MenuScreen::options) {
+        openedFrom_ = openMenu_.menuScreen();
+        openMenu_.setMenuScreen(MenuScreen::options);
+    }
+}
+
+void OptionsModel::close() {
+    openMenu_.setMenuScreen(openedFrom_);
+}
+
+} // namespace vorbel

@@ -1,0 +1,155 @@
+// More time and smaller steps for the human thrower, and a match that waits.
+#include "tests/scenario/Match.h"
+
+namespace vorbel::test {
+
+class AimingHelpTest : public MatchTest {
+protected:
+    AimingHelpTest() {
+        humanAgainstHuman();
+        game.playerClass = BocciaClass::bc2; // 0.6 percent a tick
+    }
+    void setPower() {
+        press(2);
+        ASSERT_EQ(game.aimState, AimState::aimingPower);
+    }
+};
+
+TEST_F(AimingHelpTest, ThePowerSwingsAtTheChosenPace) {
+    setPower();
+    state.aimPower = 50.0;
+    game.setPowerPace(0.25);
+    ticks(4);
+    EXPECT_DOUBLE_EQ(game.aimPower, 50.6);
+    game.setPowerPace(1);
+    ticks(1);
+    EXPECT_DOUBLE_EQ(game.aimPower, 51.2);
+}
+
+TEST_F(AimingHelpTest, NoPaceIsFasterThanTheClassHasItNorBackwards) {
+    game.setPowerPace(2);
+    EXPECT_EQ(game.powerPace(), 1);
+    game.setPowerPace(-1);
+    EXPECT_EQ(game.powerPace(), 0);
+}
+
+TEST_F(AimingHelpTest, APowerSetByHandStandsUntilItIsChangedAndIsThrown) {
+    game.setPowerPace(0);
+    setPower();
+    EXPECT_EQ(message(), "[↑][↓] set the power. [SPACE] throws");
+    ticks(200);
+    EXPECT_EQ(game.aimPower, aim::startPower);
+    game.changePower(31);
+    EXPECT_EQ(game.aimPower, aim::startPower + 31);
+    press();
+    EXPECT_EQ(game.aimState, AimState::thrown);
+    EXPECT_EQ(game.aimPower, aim::startPower + 31);
+}
+
+TEST_F(AimingHelpTest, APowerSetByHandStaysInTheRangeOfTheSwing) {
+    game.setPowerPace(0);
+    setPower();
+    game.changePower(-1);
+    EXPECT_EQ(game.aimPower, 10);
+    game.changePower(1000);
+    EXPECT_EQ(game.aimPower, 100);
+}
+
+TEST_F(AimingHelpTest, OnlyAPowerThatStandsIsSetByHand) {
+    game.changePower(5);
+    setPower();
+    game.changePower(5);
+    EXPECT_EQ(game.aimPower, aim::startPower);
+    game.setPowerPace(0);
+    game.redIsAI = true;
+    EXPECT_FALSE(game.humanSetsPower());
+}
+
+TEST_F(AimingHelpTest, FineStepsAimWithinTheSameLimits) {
+    press();
+    game.turnAimBy(0.01);
+    game.raiseAimBy(0.02);
+    EXPECT_DOUBLE_EQ(game.aimAngle, 0.01);
+    EXPECT_DOUBLE_EQ(game.aimPitch, 0.02);
+    game.turnAimBy(-10);
+    game.raiseAimBy(-10);
+    EXPECT_EQ(game.aimAngle, -aim::angleLimit);
+    EXPECT_EQ(game.aimPitch, 0);
+}
+
+TEST_F(AimingHelpTest, FineStepsDoNotRaiseARampThrow) {
+    game.playerClass = BocciaClass::bc3;
+    press();
+    game.raiseAimBy(0.01);
+    EXPECT_EQ(game.aimPitch, 0);
+}
+
+TEST_F(AimingHelpTest, ThePowerIsTakenBackFirstThenTheAim) {
+    press();
+    game.moveAimLeft();
+    press();
+    ticks(10);
+    game.takeBack();
+    EXPECT_EQ(game.aimState, AimState::aimingAngle);
+    EXPECT_EQ(game.aimPower, aim::startPower);
+    EXPECT_EQ(game.aimAngle, -aim::angleStep) << "the aim stands";
+    EXPECT_EQ(message(), "Arrows [←][→] and [↑][↓] to aim. [SPACE] - ok.");
+    game.takeBack();
+    EXPECT_EQ(game.aimState, AimState::idle);
+    EXPECT_EQ(game.aimAngle, 0);
+    EXPECT_EQ(message(), "Red's turn. [SPACE] to aim");
+    game.takeBack();
+    EXPECT_EQ(game.aimState, AimState::idle);
+}
+
+TEST_F(AimingHelpTest, AReleasedBallIsNotTakenBack) {
+    press(3);
+    game.takeBack();
+    EXPECT_EQ(game.aimState, AimState::thrown);
+}
+
+TEST_F(AimingHelpTest, TheComputersAimIsNotTakenBack) {
+    game.redIsAI = true;
+    queue.advance(1);
+    ASSERT_EQ(game.aimState, AimState::aimingAngle);
+    game.takeBack();
+    EXPECT_EQ(game.aimState, AimState::aimingAngle);
+}
+
+TEST_F(AimingHelpTest, APausedMatchWaitsAndGoesOn) {
+    setPower();
+    game.pause();
+    ticks(1); // what was announced before
+    const double power = game.aimPower;
+    ticks(50);
+    EXPECT_EQ(game.aimPower, power);
+    game.resume();
+    ticks(2);
+    EXPECT_GT(game.aimPower, power);
+}
+
+TEST_F(AimingHelpTest, APausedComputerTakesItsTimeAnew) {
+    game.redIsAI = true;
+    queue.advance(0.7);
+    game.pause();
+    queue.advance(10);
+    EXPECT_EQ(game.aimState, AimState::idle);
+    game.resume();
+    queue.advance(0.79);
+    EXPECT_EQ(game.aimState, AimState::idle);
+    queue.advance(0.02);
+    EXPECT_EQ(game.aimState, AimState::aimingAngle);
+}
+
+TEST_F(AimingHelpTest, AMatchThatWasStoppedIsNotStartedByItsResumption) {
+    setPower();
+    game.stopAimingLoop();
+    game.pause();
+    game.resume();
+    ticks(1);
+    const double power = game.aimPower;
+    ticks(10);
+    EXPECT_EQ(game.aimPower, power);
+}
+
+} // namespace vorbel::test
