@@ -149,7 +149,8 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     QObject::connect(&controllerInput, &ControllerInput::keyPressed, window,
                      [window](Qt::Key key) { sendKey(*window, key); });
     const ScreenSaver screenSaver(view);
-    std::optional<LastSession> lastSession;
+    // The toolkit leaves by exit() when the display goes, which is the end of the desktop's session and a good one.
+    static std::optional<LastSession> lastSession;
     if (commandLine.action == CommandLine::Action::play) {
         tellOfLastSession(lastSession.emplace(userStateFolder()), shell);
     }
@@ -162,7 +163,9 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     if (diagnose) {
         frameTest.emplace(view, *window);
     }
-    return application.exec();
+    const int status = application.exec();
+    lastSession.reset();
+    return status;
 }
 
 int runDiagnosis(QGuiApplication& application, const CommandLine& commandLine) {

@@ -20,8 +20,8 @@ constexpr std::array crashes = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
 // Whoever handles a signal finds nothing but what lies ready: no memory can be asked for any more.
 struct Ready {
     std::string file;
-    std::string line;                       // "… crashed, signal "
-    std::array<char, 64 * 1024> stack = {}; // also for a crash that comes of a stack without end
+    std::string line;                   // "… crashed, signal "
+    std::array<char, 65536> stack = {}; // also for a crash that comes of a stack without end
 };
 
 Ready& ready() {

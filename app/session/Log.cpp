@@ -35,9 +35,9 @@ bool isForEveryConsole(QtMsgType type) {
 
 } // namespace
 
-Log::Log(std::filesystem::path folder, bool verbose) : folder_(std::move(folder)), verbose_(verbose) {
+Log::Log(std::filesystem::path folder, bool verbose)
+    : folder_(std::move(folder)), verbose_(verbose), former_(qInstallMessageHandler(takeMessage)) {
     current() = this;
-    former_ = qInstallMessageHandler(takeMessage);
 }
 
 Log::~Log() {

@@ -15,7 +15,7 @@ namespace vorbel {
 // well, the rest there only on request. The system's journal gets nothing. One at a time.
 class Log {
 public:
-    static constexpr std::size_t sizeLimit = 64 * 1024; // bytes; a file that is full becomes `log.old`
+    static constexpr std::size_t sizeLimit = 65536; // bytes; a file that is full becomes `log.old`
 
     Log(std::filesystem::path folder, bool verbose);
     Log(const Log&) = delete;

@@ -33,8 +33,8 @@ std::string driverFacts() {
     QOpenGLFunctions& gl = *context.functions();
     const std::string tooOld =
         context.format().version() < wanted.version() ? " (too old for the arena)" : "";
-    const std::string facts = (context.isOpenGLES() ? "OpenGL ES " : "OpenGL ") + named(gl, GL_VERSION) +
-                              tooOld + ", " + named(gl, GL_RENDERER) + ", " + named(gl, GL_VENDOR);
+    std::string facts = (context.isOpenGLES() ? "OpenGL ES " : "OpenGL ") + named(gl, GL_VERSION) + tooOld +
+                        ", " + named(gl, GL_RENDERER) + ", " + named(gl, GL_VENDOR);
     context.doneCurrent();
     return facts;
 }

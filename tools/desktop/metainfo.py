@@ -7,7 +7,7 @@ ID = "example.vorbel.vorbel"
 
 # Each has its caption in words.ini, and its picture in docs/.
 PICTURES = ("arena", "menu")
-CONTROLS = ("keyboard", "pointing")
+CONTROLS = ("keyboard", "pointing", "gamepad")
 
 
 def element(parent, name, text=None, **attributes):

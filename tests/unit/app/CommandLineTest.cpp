@@ -29,6 +29,10 @@ TEST(CommandLineTest, KnowsItsOptions) {
     EXPECT_EQ(parse({"--version"}).action, Action::showVersion);
     EXPECT_EQ(parse({"--demo"}).action, Action::demonstrate);
     EXPECT_EQ(parse({"--demo", "--screenshots", "pictures"}).screenshotsFolder, "pictures");
+    EXPECT_EQ(parse({"--diagnose"}).action, Action::diagnose);
+    EXPECT_EQ(parse({"--verbose", "--demo"}).action, Action::demonstrate);
+    EXPECT_TRUE(parse({"--verbose"}).verbose);
+    EXPECT_FALSE(parse({}).verbose);
     EXPECT_EQ(parse({"--screenshot", "arena.png"}).action, Action::takeScreenshot);
     EXPECT_EQ(parse({"--screenshot", "arena.png"}).screenshot, "arena.png");
 }
@@ -61,8 +65,9 @@ TEST(CommandLineTest, ComplainsInOneLineAboutWhatItDoesNotUnderstand) {
 
 TEST(CommandLineTest, HelpNamesEveryOption) {
     const std::string help = CommandLine::helpText();
-    for (const char* option : {"--help", "--version", "--demo", "--screenshots", "--screenshot FILE",
-                               "--reset-options", "--one-switch", "VORBEL_SPEED"}) {
+    for (const char* option :
+         {"--help", "--version", "--demo", "--screenshots", "--screenshot FILE", "--diagnose", "--verbose",
+          "--reset-options", "--one-switch", "VORBEL_SPEED"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
 }

@@ -58,6 +58,14 @@ class Words(unittest.TestCase):
             self.assertTrue((ROOT / "docs" / image.text.rpartition("/")[2]).is_file(), image.text)
 
 
+class Packages(unittest.TestCase):
+    def test_debians_packages_ask_for_what_play_installs(self):
+        player = {line.split()[0] for line in read("tools/packages.txt").splitlines() if line and line[0] != "#"}
+        elsewhere = {"g++", "dbus-daemon", "xvfb"}  # there wherever packages are built; for a demonstration
+        listed = set(re.findall(r"^ ([a-z0-9][a-z0-9+.-]+)", read("debian/control"), re.MULTILINE))
+        self.assertEqual(player - listed, elsewhere)
+
+
 class ManualPages(unittest.TestCase):
     def test_they_name_every_option_that_the_help_names(self):
         for program, page in (("vorbel", "vorbel.6"), ("tools/vorbel-sim", "vorbel-sim.6")):
