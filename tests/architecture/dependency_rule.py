@@ -63,6 +63,7 @@ MAY_WRAP = {
     "vorbel_physics": {"Bullet"},
     "vorbel_render": {"Qt", "OpenGL"},
     "vorbel_runloop_qt": {"Qt"},
+    "vorbel_speech_service": {"Speech Dispatcher"},
     "vorbel_store_qt": {"Qt"},
 }
 
