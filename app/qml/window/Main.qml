@@ -94,6 +94,12 @@ Window {
     SwitchFrame {
         oneSwitch: window.view.oneSwitch
     }
+    Loader {
+        active: window.view.options.speech
+        sourceComponent: Announcement {
+            announcer: window.view.announcer
+        }
+    }
     GameKeys {
         keyboard: window.view.keyboard
     }
