@@ -1,9 +1,11 @@
 #include "platform/speech/SpeechService.h"
 
-#include <libspeechd.h>
+#include "platform/speech/SpeechLibrary.h"
 
 #include <cstdlib>
+#include <memory>
 #include <optional>
+#include <string>
 #include <thread>
 #include <utility>
 
@@ -11,61 +13,69 @@ namespace vorbel {
 
 namespace {
 
-struct CloseConnection {
-    void operator()(SPDConnection* connection) const { spd_close(connection); }
-};
-using Connection = std::unique_ptr<SPDConnection, CloseConnection>;
-
-struct FreeAddress {
-    void operator()(SPDConnectionAddress* address) const { SPDConnectionAddress__free(address); }
-};
-
-// Starts the service where it is installed but does not run. Null without one.
-Connection openConnection() {
-    constexpr int startService = 1;
-    char* problem = nullptr;
-    const std::unique_ptr<SPDConnectionAddress, FreeAddress> address(spd_get_default_address(&problem));
-    Connection connection(address == nullptr ? nullptr
-                                             : spd_open2("vorbel", "game", nullptr, SPD_MODE_SINGLE,
-                                                         address.get(), startService, &problem));
-    std::free(problem); // NOLINT(cppcoreguidelines-no-malloc): the library's
-    return connection;
-}
-
-// The usual synthesizer reads Chinese signs well with this voice only, badly with the one it takes by itself.
-// A synthesizer without it goes by the language.
-void chooseVoice(SPDConnection& connection, const std::string& language) {
-    spd_set_language(&connection, language.c_str());
-    if (language == "zh") {
-        spd_set_synthesis_voice(&connection, "Chinese (Mandarin, latin as Pinyin)");
-    }
-}
-
 // The thread's side of the service.
 class Speaker {
 public:
+    ~Speaker() { disconnect(); }
+    Speaker() = default;
+    Speaker(const Speaker&) = delete;
+    Speaker& operator=(const Speaker&) = delete;
+
     // Returns whether the service took it.
     bool speak(const Utterance& utterance) {
-        if (utterance.urgent && connection_) {
-            spd_cancel(connection_.get());
+        if (utterance.urgent && connection_ != nullptr) {
+            library_->cancel(connection_);
         }
         if (utterance.text.empty()) {
             return true;
         }
-        if (!connection_ || language_ != utterance.language) {
-            connection_ = openConnection(); // a voice once chosen would stay
-            language_ = utterance.language;
-            if (connection_) {
-                chooseVoice(*connection_, language_);
-            }
+        if (language_ != utterance.language) {
+            disconnect(); // a voice once chosen would stay
         }
-        return connection_ && spd_say(connection_.get(), SPD_MESSAGE, utterance.text.c_str()) >= 0;
+        if (connection_ == nullptr) {
+            connect(utterance.language);
+        }
+        return connection_ != nullptr && library_->say(connection_, SPD_MESSAGE, utterance.text.c_str()) >= 0;
     }
 
-    void forget() { connection_.reset(); }
+    void disconnect() {
+        if (connection_ != nullptr) {
+            library_->close(std::exchange(connection_, nullptr));
+        }
+    }
 
 private:
-    Connection connection_;
+    // Starts the service where it is installed but does not run.
+    void connect(const std::string& language) {
+        constexpr int startService = 1;
+        if (!library_) {
+            library_ = SpeechLibrary::open();
+        }
+        language_ = language;
+        char* problem = nullptr;
+        SPDConnectionAddress* address = library_ ? library_->defaultAddress(&problem) : nullptr;
+        if (address != nullptr) {
+            connection_ = library_->connect("vorbel", "game", nullptr, SPD_MODE_SINGLE, address, startService,
+                                            &problem);
+            library_->freeAddress(address);
+        }
+        std::free(problem); // NOLINT(cppcoreguidelines-no-malloc): the library's
+        if (connection_ != nullptr) {
+            chooseVoice();
+        }
+    }
+
+    // The usual synthesizer reads Chinese signs well with this voice only, badly with the one it takes by
+    // itself. A synthesizer without it goes by the language.
+    void chooseVoice() {
+        library_->setLanguage(connection_, language_.c_str());
+        if (language_ == "zh") {
+            library_->setVoice(connection_, "Chinese (Mandarin, latin as Pinyin)");
+        }
+    }
+
+    std::unique_ptr<SpeechLibrary> library_;
+    SPDConnection* connection_ = nullptr;
     std::string language_; // of the connection
 };
 
@@ -75,7 +85,7 @@ void speakAll(const std::shared_ptr<UtteranceQueue>& queue) {
     bool isThere = true;
     while (const std::optional<Utterance> next = queue->pop()) {
         if (isThere && !speaker.speak(*next)) {
-            speaker.forget();
+            speaker.disconnect();
             isThere = speaker.speak(*next);
         }
     }
