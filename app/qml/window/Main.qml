@@ -94,11 +94,10 @@ Window {
     SwitchFrame {
         oneSwitch: window.view.oneSwitch
     }
-    Loader {
-        active: window.view.options.speech
-        sourceComponent: Announcement {
-            announcer: window.view.announcer
-        }
+    Repeater {
+        model: window.view.options.speech ? [window.view.announcer] : []
+
+        Announcement {}
     }
     GameKeys {
         keyboard: window.view.keyboard
