@@ -16,6 +16,7 @@
 #include "app/shell/NotificationCenter.h"
 #include "app/shell/QtWindowFrame.h"
 #include "app/shell/VorbelApp.h"
+#include "app/speech/GameVoice.h"
 #include "app/text/Fonts.h"
 #include "app/window/ContentView.h"
 #include "app/window/Display.h"
@@ -115,6 +116,7 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     }
     ContentView view(platform.services(), demonstrate || diagnose ? guest : player);
     view.receiveNotifications(notifications);
+    const GameVoice voice(view, platform.queue);
     setDefaultFont(view.settings()->selectedLanguage());
     VorbelApp shell(*view.settings(), notifications);
     QObject::connect(view.keyboard(), &Keyboard::exitFullScreenRequested, &shell,

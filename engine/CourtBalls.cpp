@@ -20,8 +20,19 @@ bool isThrown(const Node& ball) {
 CourtBalls::CourtBalls(Scene& scene) : scene_(scene), pointer_(scene.root->findChild(arena::pointerName)) {}
 
 Position CourtBalls::position() const {
+    return positionWithout(nullptr);
+}
+
+Position CourtBalls::thrown() const {
+    return positionWithout(waiting_.get());
+}
+
+Position CourtBalls::positionWithout(const Node* leftOut) const {
     Position position;
     for (const auto& [kind, node] : balls_) {
+        if (node.get() == leftOut) {
+            continue;
+        }
         if (kind != BallColor::jack) {
             (kind == BallColor::red ? position.red : position.blue).push_back(node->position());
         } else if (!position.jack) {

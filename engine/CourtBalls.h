@@ -17,6 +17,8 @@ public:
 
     // Where all balls lie, the waiting one included.
     [[nodiscard]] Position position() const;
+    // Where the balls lie that have been thrown, the waiting one not among them.
+    [[nodiscard]] Position thrown() const;
     // The ball in the throwing box; null between a throw and the next spawn.
     [[nodiscard]] const Node::Ptr& waiting() const { return waiting_; }
 
@@ -43,6 +45,7 @@ private:
     };
 
     void add(BallColor kind, Node::Ptr node);
+    [[nodiscard]] Position positionWithout(const Node* leftOut) const;
 
     Scene& scene_;
     Node::Ptr pointer_;       // null: the scene has none

@@ -60,6 +60,9 @@ public:
     // The ball waiting in the throwing box; null between a throw and the next spawn.
     [[nodiscard]] const Node::Ptr& activeBallNode() const { return balls_.waiting(); }
 
+    // Where the balls lie that have been thrown in this end.
+    [[nodiscard]] Position thrownBalls() const { return balls_.thrown(); }
+
     // --- Written by the player's choices as well as by the match
 
     Scene scene; // built once; later only balls come and go and the pointer moves

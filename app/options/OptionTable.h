@@ -18,6 +18,7 @@ enum class Option : std::uint8_t {
     switchRest,
     courtButtons,
     controller,
+    speech,
     clearPointer,
     solidPanels,
     mute,

@@ -22,6 +22,7 @@ class Options final : public QObject {
     Q_PROPERTY(bool fineAim READ fineAim NOTIFY changed FINAL)
     Q_PROPERTY(bool powerByHand READ powerByHand NOTIFY changed FINAL)
     Q_PROPERTY(bool courtButtons READ courtButtons NOTIFY changed FINAL)
+    Q_PROPERTY(bool speech READ speech NOTIFY changed FINAL)
     Q_PROPERTY(bool solidPanels READ solidPanels NOTIFY changed FINAL)
 
 public:
@@ -36,6 +37,7 @@ public:
     [[nodiscard]] bool fineAim() const { return isOn(Option::fineAim); }
     [[nodiscard]] bool powerByHand() const { return value(Option::powerPace) == 0; }
     [[nodiscard]] bool courtButtons() const { return isOn(Option::courtButtons); }
+    [[nodiscard]] bool speech() const { return isOn(Option::speech); }
     [[nodiscard]] bool solidPanels() const { return isOn(Option::solidPanels); }
 
     void set(Option option, int value); // takes effect at once; a value that is no choice is ignored

@@ -13,6 +13,7 @@
 #include "app/options/SoundNotes.h"
 #include "app/options/SoundOptions.h"
 #include "app/settings/PlayerSettings.h"
+#include "app/speech/Announcer.h"
 #include "app/switch/OneSwitch.h"
 #include "app/window/Keyboard.h"
 #include "app/window/MatchChanges.h"
@@ -42,6 +43,7 @@ class ContentView final : public QObject {
     Q_PROPERTY(vorbel::SoundNotes* soundNotes READ soundNotes CONSTANT FINAL)
     Q_PROPERTY(vorbel::LeaveQuestion* leaving READ leaving CONSTANT FINAL)
     Q_PROPERTY(vorbel::OneSwitch* oneSwitch READ oneSwitch CONSTANT FINAL)
+    Q_PROPERTY(vorbel::Announcer* announcer READ announcer CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuModel* menu READ menu CONSTANT FINAL)
 
 public:
@@ -66,6 +68,7 @@ public:
     [[nodiscard]] SoundNotes* soundNotes() { return &soundNotes_; }
     [[nodiscard]] LeaveQuestion* leaving() { return &leaving_; }
     [[nodiscard]] OneSwitch* oneSwitch() { return &oneSwitch_; }
+    [[nodiscard]] Announcer* announcer() { return &announcer_; }
     [[nodiscard]] MenuModel* menu() { return &menu_; }
 
 private:
@@ -89,6 +92,7 @@ private:
     SightOptions sightOptions_;
     Keyboard keyboard_;
     HudModel hud_;
+    Announcer announcer_;
     MenuModel menu_;
     std::vector<Subscription> notifications_;
     std::pair<double, double> shownAim_{0, 0}; // angle and pitch that the pointer was last turned to

@@ -45,6 +45,12 @@ void Keyboard::pressPageDown() {
     power(-aim::powerByHandLeap);
 }
 
+void Keyboard::pressEverything() {
+    if (menu_.isHidden()) {
+        emit everythingRequested();
+    }
+}
+
 void Keyboard::pressExitFullScreen() {
     emit exitFullScreenRequested();
 }

@@ -21,13 +21,14 @@ PLATFORM_DATA = {
     "platform/store",
 }
 GAME = {"engine", "scene", "career", "rules", "l10n", "math"}
-PROGRAM = GAME | {"app", "platform"}
+PROGRAM = GAME | {"app", "narration", "platform"}
 
 # What the files of each top folder may include of this project besides their own: folders, or single headers.
 MAY_INCLUDE = {
     "math": set(),
     "l10n": set(),
     "rules": {"math", "l10n"},
+    "narration": {"rules", "l10n"},
     "platform": {"math"},
     "scene": {"math", "rules", "l10n", "platform/random", "platform/scenegraph"},
     "career": {"rules", "l10n"},
@@ -44,6 +45,7 @@ MAY_SEE = {
     "math": {"GLM"},
     "l10n": set(),
     "rules": {"GLM"},
+    "narration": {"GLM"},
     "platform": {"GLM", "POSIX"},
     "scene": {"GLM"},
     "career": {"GLM", "nlohmann-json"},
@@ -61,6 +63,7 @@ MAY_WRAP = {
     "vorbel_physics": {"Bullet"},
     "vorbel_render": {"Qt", "OpenGL"},
     "vorbel_runloop_qt": {"Qt"},
+    "vorbel_speech_service": {"Speech Dispatcher"},
     "vorbel_store_qt": {"Qt"},
 }
 

@@ -52,6 +52,7 @@ class TheCheck(unittest.TestCase):
         "platform/physics/Shapes.h": "",
         "platform/render/Frame.h": "",
         "scene/Court.h": '#include "rules/Points.h"\n#include "platform/scenegraph/Node.h"\n',
+        "narration/Aiming.h": '#include "rules/Points.h"\n',
         "career/Diary.h": "",
         "career/Diary.cpp": '#include "rules/Points.h"\n#include <nlohmann/json.hpp>\n',
         "engine/Game.h": '#include "scene/Court.h"\n#include "platform/physics/PhysicsWorld.h"\n',
@@ -98,6 +99,8 @@ class TheCheck(unittest.TestCase):
             ("rules/Turn.cpp", "scene/Court.h"),
             ("scene/Court.cpp", "engine/Game.h"),
             ("scene/Court.cpp", "career/Diary.h"),
+            ("narration/Aiming.cpp", "scene/Court.h"),
+            ("rules/Turn.cpp", "narration/Aiming.h"),
             ("career/Diary.cpp", "engine/Game.h"),
             ("career/Diary.cpp", "scene/Court.h"),
             ("engine/Game.cpp", "app/View.cpp"),
@@ -115,7 +118,7 @@ class TheCheck(unittest.TestCase):
     def test_refuses_a_library_where_it_is_not_known(self):
         outside = ("<btBulletDynamicsCommon.h>", "<bullet/LinearMath/btVector3.h>", "<QString>", "<QtCore/qglobal.h>")
         outside += ("<GL/gl.h>", '"SDL_mixer.h"', "<SDL2/SDL.h>", "<mpg123.h>", "<alsa/asoundlib.h>", "<gtest/gtest.h>")
-        outside += ("<rapidcheck.h>", "<benchmark/benchmark.h>", "<unistd.h>")
+        outside += ("<libspeechd.h>", "<rapidcheck.h>", "<benchmark/benchmark.h>", "<unistd.h>")
         for header in outside:
             for folder in ("engine", "career", "scene", "rules", "l10n", "math"):
                 self.assert_refused(f"{folder}/X.cpp", f"#include {header}\n", "is not known here")

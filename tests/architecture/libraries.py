@@ -9,6 +9,7 @@ LIBRARIES = {
     "Bullet": r"bt[A-Z].*|(bullet/)?(Bullet|LinearMath).*|bullet/.*",
     "mpg123": r"(out|syn|fmt)?123\.h|mpg123\.h",
     "ALSA": r"alsa/.*",
+    "Speech Dispatcher": r"(speech-dispatcher/)?(libspeechd|speechd_\w+)\.h",
     "GLM": r"glm/.*",
     "nlohmann-json": r"nlohmann/.*",
     "GoogleTest": r"(gtest|gmock)/.*",

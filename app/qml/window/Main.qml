@@ -94,6 +94,11 @@ Window {
     SwitchFrame {
         oneSwitch: window.view.oneSwitch
     }
+    Repeater {
+        model: window.view.options.speech ? [window.view.announcer] : []
+
+        Announcement {}
+    }
     GameKeys {
         keyboard: window.view.keyboard
     }

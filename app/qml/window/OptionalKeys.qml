@@ -19,5 +19,10 @@ Item {
     Shortcut { sequence: "Backspace"; enabled: keys.fineAim; onActivated: keys.keyboard.pressTakeBack() }
     Shortcut { sequence: "PgUp"; enabled: keys.powerByHand; onActivated: keys.keyboard.pressPageUp() }
     Shortcut { sequence: "PgDown"; enabled: keys.powerByHand; onActivated: keys.keyboard.pressPageDown() }
+    AnyLayoutShortcut {
+        sequences: ["W"]
+        enabled: keys.options.speech && !keys.menuOpen
+        onActivated: keys.keyboard.pressEverything()
+    }
     AnyLayoutShortcut { sequences: ["M"]; onActivated: keys.options.toggleMute() }
 }

@@ -1,0 +1,14 @@
+#include "app/speech/GameVoice.h"
+
+#include "app/window/ContentView.h"
+
+namespace vorbel {
+
+GameVoice::GameVoice(ContentView& view, MainQueue& queue)
+    : outlets_(*view.announcer(), service_, &Announcer::isHeard),
+      narrator_(view.gameLogic(), *view.options(), queue, outlets_),
+      focusReader_(*view.options(), *view.settings(), service_) {
+    QObject::connect(view.keyboard(), &Keyboard::everythingRequested, &narrator_, &Narrator::sayEverything);
+}
+
+} // namespace vorbel
