@@ -1,0 +1,69 @@
+// The game in its window: services, match, window and what belongs to them, made and taken apart in order.
+#pragma once
+
+#include "app/command_line/CommandLine.h"
+#include "app/command_line/Demonstration.h"
+#include "app/command_line/Speed.h"
+#include "app/controller/ControllerInput.h"
+#include "app/diagnose/FrameTest.h"
+#include "app/session/ScreenSaver.h"
+#include "app/shell/NotificationCenter.h"
+#include "app/shell/QtWindowFrame.h"
+#include "app/shell/VorbelApp.h"
+#include "app/speech/GameVoice.h"
+#include "app/window/ContentView.h"
+#include "platform/audio/SdlAudio.h"
+#include "platform/controllers/SdlControllers.h"
+#include "platform/runloop/QtMainQueue.h"
+#include "platform/store/MemoryDefaults.h"
+#include "platform/store/SettingsDefaults.h"
+
+#include <QQmlApplicationEngine>
+
+#include <optional>
+
+class QGuiApplication;
+class QQuickWindow;
+
+namespace vorbel {
+
+// Main thread only; one at a time.
+class WindowedGame {
+public:
+    // For play, demonstrate or diagnose. The application and the command line must outlive it.
+    WindowedGame(QGuiApplication& application, const CommandLine& commandLine);
+
+    // Shows the window and returns the exit status once it is closed.
+    [[nodiscard]] int run();
+
+private:
+    [[nodiscard]] bool isDoing(CommandLine::Action action) const { return commandLine_.action == action; }
+    [[nodiscard]] UserDefaults& player();
+    [[nodiscard]] QQuickWindow* loadedWindow(); // null when it cannot be made; the engine has then said why
+    void connectWindow(QQuickWindow& window);
+    void tellOfLastSession();
+
+    QGuiApplication& application_;
+    const CommandLine& commandLine_;
+
+    QtMainQueue queue_{speedFromEnvironment()};
+    SystemRandom random_;
+    Resources resources_;
+    SdlAudio audio_{resources_};
+    SdlControllers controllers_;
+    SettingsDefaults defaults_{SettingsDefaults::userFolder()};
+    MemoryDefaults guest_; // of who leaves the player's career alone
+
+    NotificationCenter notifications_;
+    ContentView view_;
+    GameVoice voice_;
+    VorbelApp shell_;
+    ControllerInput controllerInput_;
+    QQmlApplicationEngine engine_;
+    std::optional<QtWindowFrame> frame_;
+    std::optional<ScreenSaver> screenSaver_;
+    std::optional<Demonstration> demonstration_;
+    std::optional<FrameTest> frameTest_;
+};
+
+} // namespace vorbel
