@@ -26,10 +26,6 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "options.switchAsks.help",
     "options.switchRest",
     "options.switchRest.help",
-    "options.switchKey",
-    "options.switchKey.help",
-    "options.pressKey",
-    "options.none",
     "options.seconds.format",
 
     "options.devices",
@@ -41,8 +37,6 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "options.voice",
     "options.speech",
     "options.speech.help",
-    "options.tones",
-    "options.tones.help",
 
     "options.sight",
     "options.ballMarks",
@@ -53,8 +47,6 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "options.clearPointer.help",
     "options.solidPanels",
     "options.solidPanels.help",
-    "options.textSize",
-    "options.textSize.help",
 
     "options.sound",
     "options.mute",

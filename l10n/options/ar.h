@@ -26,10 +26,6 @@ inline constexpr auto ar = std::to_array<Text>({
     {"options.switchAsks.help", "يتيح لك إعادة التصويب قبل رمي الكرة."},
     {"options.switchRest", "مهلة بعد الضغط"},
     {"options.switchRest.help", "لا تُحتسب ضغطة ثانية قبل انقضاء هذه المهلة."},
-    {"options.switchKey", "مفتاح إضافي"},
-    {"options.switchKey.help", "مفتاح آخر يقوم مقام الزر: اختر هذا ثم اضغط المفتاح."},
-    {"options.pressKey", "اضغط مفتاحًا…"},
-    {"options.none", "لا يوجد"},
     {"options.seconds.format", "%@ ث"},
 
     {"options.devices", "الفأرة ووحدة التحكم"},
@@ -41,8 +37,6 @@ inline constexpr auto ar = std::to_array<Text>({
     {"options.voice", "النطق والنغمات"},
     {"options.speech", "نطق ما يجري"},
     {"options.speech.help", "تُنطق الرسائل والتصويب ومواضع الكرات. المفتاح W يعيد نطقها."},
-    {"options.tones", "نغمات التصويب"},
-    {"options.tones.help", "ترتفع النغمة مع القوة، وتنتقل من اليسار إلى اليمين مع الزاوية."},
 
     {"options.sight", "الرؤية"},
     {"options.ballMarks", "علامات على الكرات"},
@@ -53,8 +47,6 @@ inline constexpr auto ar = std::to_array<Text>({
     {"options.clearPointer.help", "مؤشر التصويب أبيض بحافة سوداء."},
     {"options.solidPanels", "لوحات معتمة"},
     {"options.solidPanels.help", "لا يظهر شيء من خلف لوحات الشاشة."},
-    {"options.textSize", "حجم النص"},
-    {"options.textSize.help", "حجم جميع النصوص في اللعبة."},
 
     {"options.sound", "الأصوات"},
     {"options.mute", "بلا صوت"},

@@ -28,11 +28,6 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.switchAsks.help", "Vor dem Abwurf kannst du noch einmal neu zielen."},
     {"options.switchRest", "Pause nach dem Drücken"},
     {"options.switchRest.help", "Drückst du in dieser Zeit noch einmal, zählt es nicht."},
-    {"options.switchKey", "Weitere Taste"},
-    {"options.switchKey.help", "Noch eine Taste, die als Taster dient: erst hier auswählen, dann die Taste "
-                               "drücken."},
-    {"options.pressKey", "Taste drücken …"},
-    {"options.none", "Keine"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Maus und Controller"},
@@ -45,9 +40,6 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.speech", "Ansagen"},
     {"options.speech.help", "Angesagt werden Meldungen, Zielrichtung und Lage der Bälle. Die Taste W "
                             "wiederholt die Ansage."},
-    {"options.tones", "Töne beim Zielen"},
-    {"options.tones.help", "Ein Ton steigt mit der Wurfstärke und wandert mit dem Winkel von links nach "
-                           "rechts."},
 
     {"options.sight", "Sehen"},
     {"options.ballMarks", "Zeichen auf den Bällen"},
@@ -58,8 +50,6 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.clearPointer.help", "Der Zielstrahl ist weiß mit schwarzem Rand."},
     {"options.solidPanels", "Deckende Anzeigen"},
     {"options.solidPanels.help", "Durch die Anzeigen scheint nichts hindurch."},
-    {"options.textSize", "Schriftgröße"},
-    {"options.textSize.help", "Wie groß alle Texte sind."},
 
     {"options.sound", "Ton"},
     {"options.mute", "Ton aus"},

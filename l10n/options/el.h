@@ -28,10 +28,6 @@ inline constexpr auto el = std::to_array<Text>({
     {"options.switchAsks.help", "Πριν φύγει η μπάλα, μπορείτε να σημαδέψετε ξανά."},
     {"options.switchRest", "Παύση μετά το πάτημα"},
     {"options.switchRest.help", "Δεύτερο πάτημα μέσα σε αυτόν τον χρόνο δεν μετράει."},
-    {"options.switchKey", "Ένα ακόμη πλήκτρο"},
-    {"options.switchKey.help", "Επιπλέον πλήκτρο αντί για το κουμπί: διαλέξτε το εδώ και ύστερα πατήστε το."},
-    {"options.pressKey", "Πατήστε ένα πλήκτρο..."},
-    {"options.none", "Κανένα"},
     {"options.seconds.format", "%@ δευτ."},
 
     {"options.devices", "Ποντίκι και χειριστήριο"},
@@ -44,9 +40,6 @@ inline constexpr auto el = std::to_array<Text>({
     {"options.speech", "Ομιλία"},
     {"options.speech.help",
      "Ακούτε τα μηνύματα, τη στόχευση και πού βρίσκονται οι μπάλες. Το πλήκτρο W τα επαναλαμβάνει."},
-    {"options.tones", "Τόνοι στόχευσης"},
-    {"options.tones.help",
-     "Ο τόνος ανεβαίνει με τη δύναμη και πηγαίνει από αριστερά προς τα δεξιά με τη γωνία."},
 
     {"options.sight", "Όραση"},
     {"options.ballMarks", "Σημάδια στις μπάλες"},
@@ -57,8 +50,6 @@ inline constexpr auto el = std::to_array<Text>({
     {"options.clearPointer.help", "Ο δείκτης στόχευσης είναι λευκός με μαύρο περίγραμμα."},
     {"options.solidPanels", "Αδιαφανή πλαίσια"},
     {"options.solidPanels.help", "Τίποτα δεν φαίνεται μέσα από τα πλαίσια της οθόνης."},
-    {"options.textSize", "Μέγεθος κειμένου"},
-    {"options.textSize.help", "Πόσο μεγάλα είναι όλα τα κείμενα."},
 
     {"options.sound", "Ήχος"},
     {"options.mute", "Χωρίς ήχο"},

@@ -27,10 +27,6 @@ inline constexpr auto en = std::to_array<Text>({
     {"options.switchAsks.help", "Offers to aim again before the ball is released."},
     {"options.switchRest", "Rest after a press"},
     {"options.switchRest.help", "A press that follows the last one sooner does not count."},
-    {"options.switchKey", "One more key"},
-    {"options.switchKey.help", "A further key that acts as the switch: choose this, then press the key."},
-    {"options.pressKey", "Press a key …"},
-    {"options.none", "None"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Mouse and controller"},
@@ -42,8 +38,6 @@ inline constexpr auto en = std::to_array<Text>({
     {"options.voice", "Voice and tones"},
     {"options.speech", "Speech"},
     {"options.speech.help", "Messages, the aim and where the balls lie are spoken. The key W says it again."},
-    {"options.tones", "Tones for the aim"},
-    {"options.tones.help", "A tone rises with the power and moves from left to right with the angle."},
 
     {"options.sight", "Seeing"},
     {"options.ballMarks", "Marks on the balls"},
@@ -54,8 +48,6 @@ inline constexpr auto en = std::to_array<Text>({
     {"options.clearPointer.help", "The aiming pointer is white with a black edge."},
     {"options.solidPanels", "Solid panels"},
     {"options.solidPanels.help", "Nothing shines through the panels of the display."},
-    {"options.textSize", "Text size"},
-    {"options.textSize.help", "How large all texts are."},
 
     {"options.sound", "Sound"},
     {"options.mute", "No sound"},

@@ -27,10 +27,6 @@ inline constexpr auto es = std::to_array<Text>({
     {"options.switchAsks.help", "Antes de soltar la bola puedes volver a apuntar."},
     {"options.switchRest", "Pausa tras pulsar"},
     {"options.switchRest.help", "Si vuelves a pulsar durante esa pausa, no cuenta."},
-    {"options.switchKey", "Una tecla más"},
-    {"options.switchKey.help", "Otra tecla que hace de pulsador: elige esto y luego pulsa la tecla."},
-    {"options.pressKey", "Pulsa una tecla..."},
-    {"options.none", "Ninguna"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Ratón y mando"},
@@ -44,8 +40,6 @@ inline constexpr auto es = std::to_array<Text>({
     {"options.speech", "Voz"},
     {"options.speech.help", "El juego dice los mensajes, la puntería y dónde están las bolas. La tecla W lo "
                             "repite."},
-    {"options.tones", "Tonos al apuntar"},
-    {"options.tones.help", "Un tono sube con la fuerza y va de izquierda a derecha con el ángulo."},
 
     {"options.sight", "Visión"},
     {"options.ballMarks", "Marcas en las bolas"},
@@ -56,8 +50,6 @@ inline constexpr auto es = std::to_array<Text>({
     {"options.clearPointer.help", "La línea de mira es blanca con el borde negro."},
     {"options.solidPanels", "Paneles opacos"},
     {"options.solidPanels.help", "Los paneles no dejan ver lo que hay detrás."},
-    {"options.textSize", "Tamaño del texto"},
-    {"options.textSize.help", "El tamaño de todos los textos."},
 
     {"options.sound", "Sonido"},
     {"options.mute", "Sin sonido"},

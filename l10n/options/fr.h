@@ -28,11 +28,6 @@ inline constexpr auto fr = std::to_array<Text>({
     {"options.switchAsks.help", "Avant de lâcher la balle, vous pouvez viser à nouveau."},
     {"options.switchRest", "Pause après un appui"},
     {"options.switchRest.help", "Un nouvel appui avant la fin de cette pause ne compte pas."},
-    {"options.switchKey", "Une touche de plus"},
-    {"options.switchKey.help", "Une autre touche qui sert de contacteur : choisissez ceci, puis appuyez sur "
-                               "la touche."},
-    {"options.pressKey", "Appuyez sur une touche…"},
-    {"options.none", "Aucune"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Souris et manette"},
@@ -46,8 +41,6 @@ inline constexpr auto fr = std::to_array<Text>({
     {"options.speech", "Voix"},
     {"options.speech.help", "Les messages, la visée et la position des balles sont dits à voix haute. La "
                             "touche W les répète."},
-    {"options.tones", "Repères sonores de visée"},
-    {"options.tones.help", "Un son monte avec la force et passe de gauche à droite avec l’angle."},
 
     {"options.sight", "Vision"},
     {"options.ballMarks", "Marques sur les balles"},
@@ -58,8 +51,6 @@ inline constexpr auto fr = std::to_array<Text>({
     {"options.clearPointer.help", "La ligne de visée est blanche, bordée de noir."},
     {"options.solidPanels", "Panneaux opaques"},
     {"options.solidPanels.help", "On ne voit rien à travers les panneaux."},
-    {"options.textSize", "Taille du texte"},
-    {"options.textSize.help", "La taille de tous les textes."},
 
     {"options.sound", "Son"},
     {"options.mute", "Couper le son"},

@@ -25,10 +25,6 @@ inline constexpr auto hi = std::to_array<Text>({
     {"options.switchAsks.help", "गेंद छोड़ने से पहले फिर से निशाना साधने का मौका मिलता है।"},
     {"options.switchRest", "दबाने के बाद विराम"},
     {"options.switchRest.help", "इतने समय के भीतर दोबारा दबाया तो गिना नहीं जाता।"},
-    {"options.switchKey", "एक और कुंजी"},
-    {"options.switchKey.help", "स्विच का काम करने वाली एक और कुंजी: इसे चुनें, फिर वह कुंजी दबाएँ।"},
-    {"options.pressKey", "कोई कुंजी दबाएँ..."},
-    {"options.none", "कोई नहीं"},
     {"options.seconds.format", "%@ सेकंड"},
 
     {"options.devices", "माउस और कंट्रोलर"},
@@ -40,8 +36,6 @@ inline constexpr auto hi = std::to_array<Text>({
     {"options.voice", "आवाज़ और सुर"},
     {"options.speech", "बोलकर बताएँ"},
     {"options.speech.help", "संदेश, निशाना और गेंदों की जगह बोलकर बताई जाती है। W कुंजी से फिर सुनें।"},
-    {"options.tones", "निशाने के सुर"},
-    {"options.tones.help", "ताकत बढ़ने पर सुर ऊँचा होता है और कोण के साथ बाएँ से दाएँ जाता है।"},
 
     {"options.sight", "देखने में मदद"},
     {"options.ballMarks", "गेंदों पर चिह्न"},
@@ -52,8 +46,6 @@ inline constexpr auto hi = std::to_array<Text>({
     {"options.clearPointer.help", "निशाने की रेखा सफ़ेद होती है और उसका किनारा काला।"},
     {"options.solidPanels", "ठोस पैनल"},
     {"options.solidPanels.help", "स्क्रीन के पैनलों के आर-पार कुछ नहीं दिखता।"},
-    {"options.textSize", "अक्षरों का आकार"},
-    {"options.textSize.help", "सभी अक्षर कितने बड़े हों।"},
 
     {"options.sound", "ध्वनि"},
     {"options.mute", "आवाज़ बंद"},

@@ -27,11 +27,6 @@ inline constexpr auto id = std::to_array<Text>({
     {"options.switchAsks.help", "Anda bisa membidik lagi sebelum bola dilepas."},
     {"options.switchRest", "Jeda setelah menekan"},
     {"options.switchRest.help", "Tekanan berikutnya dalam waktu ini tidak dihitung."},
-    {"options.switchKey", "Tombol tambahan"},
-    {"options.switchKey.help",
-     "Tombol lain yang berfungsi sebagai sakelar: pilih ini, lalu tekan tombolnya."},
-    {"options.pressKey", "Tekan sebuah tombol..."},
-    {"options.none", "Tidak ada"},
     {"options.seconds.format", "%@ detik"},
 
     {"options.devices", "Mouse dan kontroler"},
@@ -44,9 +39,6 @@ inline constexpr auto id = std::to_array<Text>({
     {"options.voice", "Suara dan nada"},
     {"options.speech", "Narasi"},
     {"options.speech.help", "Pesan, bidikan, dan letak bola dibacakan. Tombol W mengulanginya."},
-    {"options.tones", "Nada bidikan"},
-    {"options.tones.help",
-     "Nada makin tinggi mengikuti kekuatan dan bergeser dari kiri ke kanan mengikuti sudut."},
 
     {"options.sight", "Tampilan"},
     {"options.ballMarks", "Tanda pada bola"},
@@ -57,8 +49,6 @@ inline constexpr auto id = std::to_array<Text>({
     {"options.clearPointer.help", "Garis bidik berwarna putih dengan tepi hitam."},
     {"options.solidPanels", "Panel pekat"},
     {"options.solidPanels.help", "Panel di layar tidak tembus pandang."},
-    {"options.textSize", "Ukuran teks"},
-    {"options.textSize.help", "Seberapa besar semua teks."},
 
     {"options.sound", "Bunyi"},
     {"options.mute", "Tanpa bunyi"},

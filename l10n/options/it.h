@@ -28,10 +28,6 @@ inline constexpr auto it = std::to_array<Text>({
     {"options.switchAsks.help", "Prima di lasciare la boccia puoi mirare di nuovo."},
     {"options.switchRest", "Pausa dopo ogni pressione"},
     {"options.switchRest.help", "Se premi di nuovo durante la pausa, non conta."},
-    {"options.switchKey", "Un tasto in più"},
-    {"options.switchKey.help", "Un altro tasto che fa da sensore: scegli questa voce, poi premi il tasto."},
-    {"options.pressKey", "Premi un tasto..."},
-    {"options.none", "Nessuno"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Mouse e controller"},
@@ -45,8 +41,6 @@ inline constexpr auto it = std::to_array<Text>({
     {"options.speech", "Voce"},
     {"options.speech.help", "Il gioco dice i messaggi, la mira e la posizione delle bocce. Il tasto W li "
                             "ripete."},
-    {"options.tones", "Toni per la mira"},
-    {"options.tones.help", "Un tono sale con la forza e si sposta da sinistra a destra con l’angolo."},
 
     {"options.sight", "Vista"},
     {"options.ballMarks", "Segni sulle bocce"},
@@ -57,8 +51,6 @@ inline constexpr auto it = std::to_array<Text>({
     {"options.clearPointer.help", "La linea di mira è bianca con il bordo nero."},
     {"options.solidPanels", "Pannelli opachi"},
     {"options.solidPanels.help", "Attraverso i pannelli non si vede nulla."},
-    {"options.textSize", "Dimensione del testo"},
-    {"options.textSize.help", "La dimensione di tutti i testi."},
 
     {"options.sound", "Audio"},
     {"options.mute", "Disattiva l’audio"},

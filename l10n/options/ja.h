@@ -26,11 +26,6 @@ inline constexpr auto ja = std::to_array<Text>({
     {"options.switchAsks.help", "ボールを放す前に、狙い直すこともできます。"},
     {"options.switchRest", "押したあとの間隔"},
     {"options.switchRest.help", "この時間内にもう一度押しても無視されます。"},
-    {"options.switchKey", "スイッチのキーを追加"},
-    {"options.switchKey.help",
-     "スイッチとして使うキーを増やします。これを選んでから、キーを押してください。"},
-    {"options.pressKey", "キーを押してください…"},
-    {"options.none", "なし"},
     {"options.seconds.format", "%@秒"},
 
     {"options.devices", "マウスとコントローラー"},
@@ -43,8 +38,6 @@ inline constexpr auto ja = std::to_array<Text>({
     {"options.voice", "読み上げと合図音"},
     {"options.speech", "読み上げ"},
     {"options.speech.help", "メッセージ、狙い、ボールの位置を読み上げます。Wキーでもう一度聞けます。"},
-    {"options.tones", "狙いの合図音"},
-    {"options.tones.help", "パワーが上がると音が高くなり、角度に合わせて音が左右に動きます。"},
 
     {"options.sight", "見やすさ"},
     {"options.ballMarks", "ボールの目印"},
@@ -55,8 +48,6 @@ inline constexpr auto ja = std::to_array<Text>({
     {"options.clearPointer.help", "狙いのポインターが、黒い縁取りの白になります。"},
     {"options.solidPanels", "透けないパネル"},
     {"options.solidPanels.help", "画面のパネルの後ろが透けなくなります。"},
-    {"options.textSize", "文字サイズ"},
-    {"options.textSize.help", "すべての文字の大きさです。"},
 
     {"options.sound", "サウンド"},
     {"options.mute", "消音"},

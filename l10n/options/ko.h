@@ -26,10 +26,6 @@ inline constexpr auto ko = std::to_array<Text>({
     {"options.switchAsks.help", "공을 놓기 전에 다시 조준할 수 있게 합니다."},
     {"options.switchRest", "누른 뒤 쉬는 시간"},
     {"options.switchRest.help", "이 시간 안에 다시 누르면 무시합니다."},
-    {"options.switchKey", "스위치 키 추가"},
-    {"options.switchKey.help", "스위치로 쓸 키를 추가합니다. 이 항목을 고른 다음 키를 누르세요."},
-    {"options.pressKey", "키를 누르세요..."},
-    {"options.none", "없음"},
     {"options.seconds.format", "%@초"},
 
     {"options.devices", "마우스와 컨트롤러"},
@@ -41,8 +37,6 @@ inline constexpr auto ko = std::to_array<Text>({
     {"options.voice", "음성과 신호음"},
     {"options.speech", "음성 안내"},
     {"options.speech.help", "메시지, 조준 상태, 공의 위치를 읽어 줍니다. W 키를 누르면 다시 들려줍니다."},
-    {"options.tones", "조준 신호음"},
-    {"options.tones.help", "세기가 커지면 음이 높아지고, 각도에 따라 소리가 좌우로 움직입니다."},
 
     {"options.sight", "시각"},
     {"options.ballMarks", "공 무늬"},
@@ -53,8 +47,6 @@ inline constexpr auto ko = std::to_array<Text>({
     {"options.clearPointer.help", "조준 포인터가 검은 테두리를 두른 흰색이 됩니다."},
     {"options.solidPanels", "불투명 패널"},
     {"options.solidPanels.help", "화면 패널 뒤가 비치지 않습니다."},
-    {"options.textSize", "글자 크기"},
-    {"options.textSize.help", "모든 글자의 크기입니다."},
 
     {"options.sound", "소리"},
     {"options.mute", "음소거"},

@@ -28,10 +28,6 @@ inline constexpr auto nl = std::to_array<Text>({
     {"options.switchAsks.help", "Je kunt nog opnieuw richten voordat de bal wordt losgelaten."},
     {"options.switchRest", "Pauze na het drukken"},
     {"options.switchRest.help", "Druk je binnen deze tijd nog een keer, dan telt dat niet."},
-    {"options.switchKey", "Extra toets"},
-    {"options.switchKey.help", "Nog een toets die als schakelaar werkt: kies dit en druk dan op de toets."},
-    {"options.pressKey", "Druk op een toets..."},
-    {"options.none", "Geen"},
     {"options.seconds.format", "%@ sec"},
 
     {"options.devices", "Muis en controller"},
@@ -45,8 +41,6 @@ inline constexpr auto nl = std::to_array<Text>({
     {"options.speech", "Spraak"},
     {"options.speech.help",
      "Meldingen, de richting en de ligging van de ballen worden voorgelezen. Toets W herhaalt ze."},
-    {"options.tones", "Tonen bij het richten"},
-    {"options.tones.help", "De toon stijgt met de kracht en schuift met de hoek van links naar rechts."},
 
     {"options.sight", "Beeld"},
     {"options.ballMarks", "Tekens op de ballen"},
@@ -57,8 +51,6 @@ inline constexpr auto nl = std::to_array<Text>({
     {"options.clearPointer.help", "De richtstreep is wit met een zwarte rand."},
     {"options.solidPanels", "Dichte panelen"},
     {"options.solidPanels.help", "De panelen op het scherm zijn niet doorzichtig."},
-    {"options.textSize", "Tekstgrootte"},
-    {"options.textSize.help", "Hoe groot alle teksten zijn."},
 
     {"options.sound", "Geluid"},
     {"options.mute", "Geen geluid"},

@@ -28,11 +28,6 @@ inline constexpr auto pl = std::to_array<Text>({
     {"options.switchAsks.help", "Przed rzutem możesz jeszcze wycelować od nowa."},
     {"options.switchRest", "Przerwa po naciśnięciu"},
     {"options.switchRest.help", "Kolejne naciśnięcie w tym czasie się nie liczy."},
-    {"options.switchKey", "Dodatkowy klawisz"},
-    {"options.switchKey.help",
-     "Jeszcze jeden klawisz zamiast przycisku: wybierz tę opcję, a potem go naciśnij."},
-    {"options.pressKey", "Naciśnij klawisz…"},
-    {"options.none", "Brak"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Mysz i kontroler"},
@@ -46,8 +41,6 @@ inline constexpr auto pl = std::to_array<Text>({
     {"options.speech", "Mowa"},
     {"options.speech.help",
      "Gra czyta na głos komunikaty, ustawienie rzutu i położenie bil. Klawisz W powtarza."},
-    {"options.tones", "Dźwięki celowania"},
-    {"options.tones.help", "Ton rośnie wraz z siłą i przesuwa się od lewej do prawej wraz z kątem."},
 
     {"options.sight", "Wzrok"},
     {"options.ballMarks", "Znaki na bilach"},
@@ -58,8 +51,6 @@ inline constexpr auto pl = std::to_array<Text>({
     {"options.clearPointer.help", "Wskaźnik celowania jest biały z czarną obwódką."},
     {"options.solidPanels", "Nieprzezroczyste panele"},
     {"options.solidPanels.help", "Przez panele na ekranie nic nie prześwituje."},
-    {"options.textSize", "Rozmiar tekstu"},
-    {"options.textSize.help", "Wielkość wszystkich napisów w grze."},
 
     {"options.sound", "Dźwięk"},
     {"options.mute", "Bez dźwięku"},

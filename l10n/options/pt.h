@@ -27,11 +27,6 @@ inline constexpr auto pt = std::to_array<Text>({
     {"options.switchAsks.help", "Antes de soltar a bola, dá para mirar de novo."},
     {"options.switchRest", "Pausa depois de pressionar"},
     {"options.switchRest.help", "Se você pressionar de novo durante a pausa, não conta."},
-    {"options.switchKey", "Mais uma tecla"},
-    {"options.switchKey.help", "Outra tecla que serve de acionador: escolha esta opção e depois pressione a "
-                               "tecla."},
-    {"options.pressKey", "Pressione uma tecla..."},
-    {"options.none", "Nenhuma"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Mouse e controle"},
@@ -44,8 +39,6 @@ inline constexpr auto pt = std::to_array<Text>({
     {"options.voice", "Voz e tons"},
     {"options.speech", "Voz"},
     {"options.speech.help", "O jogo fala as mensagens, a mira e onde estão as bolas. A tecla W repete."},
-    {"options.tones", "Tons para a mira"},
-    {"options.tones.help", "Um tom sobe com a força e vai da esquerda para a direita com o ângulo."},
 
     {"options.sight", "Visão"},
     {"options.ballMarks", "Marcas nas bolas"},
@@ -56,8 +49,6 @@ inline constexpr auto pt = std::to_array<Text>({
     {"options.clearPointer.help", "A linha de mira é branca com borda preta."},
     {"options.solidPanels", "Painéis opacos"},
     {"options.solidPanels.help", "Não se vê nada através dos painéis."},
-    {"options.textSize", "Tamanho do texto"},
-    {"options.textSize.help", "O tamanho de todos os textos."},
 
     {"options.sound", "Som"},
     {"options.mute", "Sem som"},

@@ -27,10 +27,6 @@ inline constexpr auto ru = std::to_array<Text>({
     {"options.switchAsks.help", "Перед броском можно прицелиться заново."},
     {"options.switchRest", "Пауза после нажатия"},
     {"options.switchRest.help", "Повторное нажатие в течение этого времени не засчитывается."},
-    {"options.switchKey", "Ещё одна клавиша"},
-    {"options.switchKey.help", "Дополнительная клавиша вместо кнопки: выберите этот пункт и нажмите её."},
-    {"options.pressKey", "Нажмите клавишу…"},
-    {"options.none", "Не выбрано"},
     {"options.seconds.format", "%@ с"},
 
     {"options.devices", "Мышь и контроллер"},
@@ -42,8 +38,6 @@ inline constexpr auto ru = std::to_array<Text>({
     {"options.voice", "Голос и сигналы"},
     {"options.speech", "Озвучивание"},
     {"options.speech.help", "Сообщения, прицел и положение мячей звучат вслух. Клавиша W повторяет."},
-    {"options.tones", "Звуковой прицел"},
-    {"options.tones.help", "Тон повышается вместе с силой и смещается слева направо вместе с углом."},
 
     {"options.sight", "Зрение"},
     {"options.ballMarks", "Метки на мячах"},
@@ -54,8 +48,6 @@ inline constexpr auto ru = std::to_array<Text>({
     {"options.clearPointer.help", "Указатель прицела белый с чёрной каймой."},
     {"options.solidPanels", "Непрозрачные панели"},
     {"options.solidPanels.help", "Сквозь панели на экране ничего не просвечивает."},
-    {"options.textSize", "Размер текста"},
-    {"options.textSize.help", "Величина всех надписей в игре."},
 
     {"options.sound", "Звук"},
     {"options.mute", "Без звука"},

@@ -26,10 +26,6 @@ inline constexpr auto th = std::to_array<Text>({
     {"options.switchAsks.help", "ให้เลือกเล็งใหม่ได้ก่อนปล่อยลูก"},
     {"options.switchRest", "เวลาพักหลังกด"},
     {"options.switchRest.help", "หากกดซ้ำภายในเวลานี้จะไม่นับ"},
-    {"options.switchKey", "เพิ่มปุ่มสวิตช์"},
-    {"options.switchKey.help", "เพิ่มอีกปุ่มเพื่อใช้เป็นสวิตช์: เลือกรายการนี้ แล้วกดปุ่มที่ต้องการ"},
-    {"options.pressKey", "กดปุ่มที่ต้องการ..."},
-    {"options.none", "ไม่มี"},
     {"options.seconds.format", "%@ วินาที"},
 
     {"options.devices", "เมาส์และคอนโทรลเลอร์"},
@@ -41,8 +37,6 @@ inline constexpr auto th = std::to_array<Text>({
     {"options.voice", "เสียงพูดและเสียงสัญญาณ"},
     {"options.speech", "เสียงพูด"},
     {"options.speech.help", "อ่านข้อความ การเล็ง และตำแหน่งของลูกให้ฟัง กด W เพื่อฟังอีกครั้ง"},
-    {"options.tones", "เสียงสัญญาณช่วยเล็ง"},
-    {"options.tones.help", "เสียงสูงขึ้นตามแรงโยน และเลื่อนซ้ายขวาตามมุม"},
 
     {"options.sight", "การมองเห็น"},
     {"options.ballMarks", "เครื่องหมายบนลูกบอล"},
@@ -53,8 +47,6 @@ inline constexpr auto th = std::to_array<Text>({
     {"options.clearPointer.help", "ตัวชี้สำหรับเล็งเป็นสีขาวขอบดำ"},
     {"options.solidPanels", "แผงทึบ"},
     {"options.solidPanels.help", "มองไม่เห็นฉากหลังผ่านแผงบนหน้าจอ"},
-    {"options.textSize", "ขนาดตัวอักษร"},
-    {"options.textSize.help", "ขนาดของข้อความทั้งหมด"},
 
     {"options.sound", "เสียง"},
     {"options.mute", "ปิดเสียง"},

@@ -27,10 +27,6 @@ inline constexpr auto tr = std::to_array<Text>({
     {"options.switchAsks.help", "Top bırakılmadan önce yeniden nişan alabilirsin."},
     {"options.switchRest", "Bastıktan sonra ara"},
     {"options.switchRest.help", "Bu süre dolmadan yeniden basarsan sayılmaz."},
-    {"options.switchKey", "Ek tuş"},
-    {"options.switchKey.help", "Düğme yerine geçecek bir tuş daha: bunu seç, sonra o tuşa bas."},
-    {"options.pressKey", "Bir tuşa bas…"},
-    {"options.none", "Yok"},
     {"options.seconds.format", "%@ sn"},
 
     {"options.devices", "Fare ve oyun kolu"},
@@ -42,8 +38,6 @@ inline constexpr auto tr = std::to_array<Text>({
     {"options.voice", "Anlatım ve tonlar"},
     {"options.speech", "Sesli anlatım"},
     {"options.speech.help", "Mesajlar, nişan ve topların yeri sesli okunur. W tuşu yeniden okur."},
-    {"options.tones", "Nişan tonu"},
-    {"options.tones.help", "Güç arttıkça ton tizleşir, açı değiştikçe soldan sağa kayar."},
 
     {"options.sight", "Görünüm"},
     {"options.ballMarks", "Toplarda işaret"},
@@ -54,8 +48,6 @@ inline constexpr auto tr = std::to_array<Text>({
     {"options.clearPointer.help", "Nişan çizgisi beyaz, kenarları siyah olur."},
     {"options.solidPanels", "Saydam olmayan paneller"},
     {"options.solidPanels.help", "Ekrandaki panellerin arkası görünmez."},
-    {"options.textSize", "Yazı boyutu"},
-    {"options.textSize.help", "Bütün yazıların büyüklüğü."},
 
     {"options.sound", "Ses"},
     {"options.mute", "Sessiz"},

@@ -27,10 +27,6 @@ inline constexpr auto uk = std::to_array<Text>({
     {"options.switchAsks.help", "Перед кидком можна прицілитися ще раз."},
     {"options.switchRest", "Пауза після натискання"},
     {"options.switchRest.help", "Повторне натискання протягом цього часу не зараховується."},
-    {"options.switchKey", "Ще одна клавіша"},
-    {"options.switchKey.help", "Додаткова клавіша замість кнопки: виберіть цей пункт і натисніть її."},
-    {"options.pressKey", "Натисніть клавішу…"},
-    {"options.none", "Не вибрано"},
     {"options.seconds.format", "%@ с"},
 
     {"options.devices", "Миша й контролер"},
@@ -42,8 +38,6 @@ inline constexpr auto uk = std::to_array<Text>({
     {"options.voice", "Голос і сигнали"},
     {"options.speech", "Озвучення"},
     {"options.speech.help", "Повідомлення, приціл і розташування м’ячів звучать уголос. Клавіша W повторює."},
-    {"options.tones", "Звуковий приціл"},
-    {"options.tones.help", "Тон вищає разом із силою та зміщується зліва направо разом із кутом."},
 
     {"options.sight", "Зір"},
     {"options.ballMarks", "Позначки на м’ячах"},
@@ -54,8 +48,6 @@ inline constexpr auto uk = std::to_array<Text>({
     {"options.clearPointer.help", "Вказівник прицілу білий із чорною облямівкою."},
     {"options.solidPanels", "Непрозорі панелі"},
     {"options.solidPanels.help", "Крізь панелі на екрані нічого не просвічує."},
-    {"options.textSize", "Розмір тексту"},
-    {"options.textSize.help", "Величина всіх написів у грі."},
 
     {"options.sound", "Звук"},
     {"options.mute", "Без звуку"},

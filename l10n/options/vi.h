@@ -28,10 +28,6 @@ inline constexpr auto vi = std::to_array<Text>({
     {"options.switchAsks.help", "Bạn có thể ngắm lại trước khi thả bóng."},
     {"options.switchRest", "Nghỉ sau mỗi lần nhấn"},
     {"options.switchRest.help", "Nhấn lại trong khoảng thời gian này sẽ không được tính."},
-    {"options.switchKey", "Thêm một phím"},
-    {"options.switchKey.help", "Một phím nữa dùng làm công tắc: chọn mục này rồi nhấn phím đó."},
-    {"options.pressKey", "Nhấn một phím..."},
-    {"options.none", "Không có"},
     {"options.seconds.format", "%@ giây"},
 
     {"options.devices", "Chuột và tay cầm"},
@@ -43,8 +39,6 @@ inline constexpr auto vi = std::to_array<Text>({
     {"options.voice", "Giọng đọc và âm báo"},
     {"options.speech", "Giọng đọc"},
     {"options.speech.help", "Đọc thông báo, góc ngắm và vị trí các quả bóng. Nhấn phím W để nghe lại."},
-    {"options.tones", "Âm báo khi ngắm"},
-    {"options.tones.help", "Âm báo cao dần theo lực và chuyển từ trái sang phải theo góc."},
 
     {"options.sight", "Hiển thị"},
     {"options.ballMarks", "Ký hiệu trên bóng"},
@@ -55,8 +49,6 @@ inline constexpr auto vi = std::to_array<Text>({
     {"options.clearPointer.help", "Đường ngắm màu trắng, viền đen."},
     {"options.solidPanels", "Bảng không trong suốt"},
     {"options.solidPanels.help", "Các bảng trên màn hình che kín phía sau."},
-    {"options.textSize", "Cỡ chữ"},
-    {"options.textSize.help", "Mọi chữ trong trò chơi to hay nhỏ."},
 
     {"options.sound", "Âm thanh"},
     {"options.mute", "Tắt tiếng"},

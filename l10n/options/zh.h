@@ -25,10 +25,6 @@ inline constexpr auto zh = std::to_array<Text>({
     {"options.switchAsks.help", "球出手前，可以选择重新瞄准。"},
     {"options.switchRest", "按下后的间隔"},
     {"options.switchRest.help", "在这段时间内再次按下不算数。"},
-    {"options.switchKey", "再加一个按键"},
-    {"options.switchKey.help", "另设一个键作为开关：选择此项，然后按下那个键。"},
-    {"options.pressKey", "请按一个键……"},
-    {"options.none", "无"},
     {"options.seconds.format", "%@秒"},
 
     {"options.devices", "鼠标与手柄"},
@@ -40,8 +36,6 @@ inline constexpr auto zh = std::to_array<Text>({
     {"options.voice", "语音与提示音"},
     {"options.speech", "语音播报"},
     {"options.speech.help", "播报消息、瞄准情况和各球位置。按W键可重听。"},
-    {"options.tones", "瞄准提示音"},
-    {"options.tones.help", "力度越大音调越高，声音随角度左右移动。"},
 
     {"options.sight", "视觉"},
     {"options.ballMarks", "球上标记"},
@@ -52,8 +46,6 @@ inline constexpr auto zh = std::to_array<Text>({
     {"options.clearPointer.help", "瞄准指针显示为白色黑边。"},
     {"options.solidPanels", "不透明面板"},
     {"options.solidPanels.help", "面板后面的画面不再透出来。"},
-    {"options.textSize", "文字大小"},
-    {"options.textSize.help", "所有文字的大小。"},
 
     {"options.sound", "声音"},
     {"options.mute", "静音"},
