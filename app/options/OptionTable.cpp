@@ -35,6 +35,10 @@ constexpr auto rows = std::to_array<OptionRow>({
      "options.courtButtons.help", offOrOn, 0},
     {Option::controller, "controller", "options.devices", "options.controller", "options.controller.help",
      offOrOn, 1}, // whoever presses a button of one has turned it on
+    {Option::ballMarks, "ballMarks", "options.sight", "options.ballMarks", "options.ballMarks.help", offOrOn,
+     0},
+    {Option::ballOutlines, "ballOutlines", "options.sight", "options.ballOutlines",
+     "options.ballOutlines.help", offOrOn, 0},
     {Option::clearPointer, "clearPointer", "options.sight", "options.clearPointer",
      "options.clearPointer.help", offOrOn, 0},
     {Option::solidPanels, "solidPanels", "options.sight", "options.solidPanels", "options.solidPanels.help",

@@ -18,6 +18,8 @@ enum class Option : std::uint8_t {
     switchRest,
     courtButtons,
     controller,
+    ballMarks,
+    ballOutlines,
     clearPointer,
     solidPanels,
     mute,
