@@ -18,6 +18,13 @@ Color colorOf(BallColor color) {
     return colors::white;
 }
 
+Mark markOf(const Node& ball) {
+    if (ball.name == nodeName(BallColor::jack)) {
+        return Mark::none;
+    }
+    return ball.name == nodeName(BallColor::red) ? Mark::ring : Mark::cross;
+}
+
 } // namespace
 
 std::shared_ptr<PhysicsBody> makeBallBody(PhysicsBody::Type type) {
@@ -46,6 +53,15 @@ Node::Ptr makeRestingJack(const Vec3& position) {
 bool isBall(const Node& node) {
     return node.name == nodeName(BallColor::red) || node.name == nodeName(BallColor::blue) ||
            node.name == nodeName(BallColor::jack);
+}
+
+void setBallLook(Scene& scene, BallLook look) {
+    for (const Node::Ptr& node : scene.root->children()) {
+        if (node->geometry && isBall(*node)) {
+            node->geometry->material.mark = look.marked ? markOf(*node) : Mark::none;
+            node->geometry->material.outlined = look.outlined;
+        }
+    }
 }
 
 } // namespace vorbel

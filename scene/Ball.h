@@ -1,7 +1,7 @@
 // The balls of boccia: the white jack, red balls and blue balls, all of one size and weight.
 #pragma once
 
-#include "platform/scenegraph/Node.h"
+#include "platform/scenegraph/Scene.h"
 #include "rules/MatchTypes.h"
 
 #include <array>
@@ -26,5 +26,16 @@ namespace vorbel {
 
 // Whether the node is a ball, of any kind, by its name.
 [[nodiscard]] bool isBall(const Node& node);
+
+// How balls are told apart without their colour, and from the court: rings on red ones and crosses on blue ones; lines
+// around all.
+struct BallLook {
+    bool marked = false;
+    bool outlined = false;
+    bool operator==(const BallLook&) const = default;
+};
+
+// For all balls that are in the scene now; those that come later have none of it.
+void setBallLook(Scene& scene, BallLook look);
 
 } // namespace vorbel

@@ -19,6 +19,8 @@ enum class Option : std::uint8_t {
     courtButtons,
     controller,
     speech,
+    ballMarks,
+    ballOutlines,
     clearPointer,
     solidPanels,
     mute,

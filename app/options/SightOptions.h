@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/options/Options.h"
+#include "scene/Ball.h"
 
 #include <QObject>
 
@@ -20,11 +21,13 @@ public:
 
 private:
     void handOver();
+    void dressNewBalls(); // each has come with some change of the match
 
     Scene& scene_;
     const Options& options_;
     MatchChanges& changes_;
-    bool clearPointer_ = false; // as the scene has it
+    BallLook balls_; // as the scene has it
+    bool clearPointer_ = false;
 };
 
 } // namespace vorbel

@@ -24,6 +24,7 @@ constexpr Attribute attributes[] = {
     {3, offsetof(BallQuad, orientation) + 2 * sizeof(glm::vec3)},
     {3, offsetof(BallQuad, diffuse)},
     {3, offsetof(BallQuad, emission)},
+    {2, offsetof(BallQuad, look)},
 };
 
 std::optional<ShaderProgram> makeProgram(std::string_view vertex, std::string_view fragment,
@@ -91,9 +92,16 @@ void BallPainter::paint(QOpenGLExtraFunctions& gl, const BallPlan& plan, const S
     if (image_) {
         drawQuads(gl, *image_, plan.regions(), plan.images());
     }
+    if (plan.adorned() && !adorned_) {
+        std::string error; // balls without marks are better than none
+        adorned_ =
+            makeProgram(shaders::ballVertex,
+                        std::string(shaders::ballAdornment).append(shaders::ballFragment), "ADORNED", error);
+    }
     gl.glEnable(GL_BLEND);
     gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
-    drawQuads(gl, ball_, plan.regions() + plan.images(), plan.balls());
+    drawQuads(gl, plan.adorned() && adorned_ ? *adorned_ : ball_, plan.regions() + plan.images(),
+              plan.balls());
     gl.glDisable(GL_BLEND);
 }
 

@@ -25,7 +25,8 @@ private:
 
     ShaderProgram region_;
     ShaderProgram ball_;
-    std::optional<ShaderProgram> image_; // balls seldom leave the court: made when it is first used
+    std::optional<ShaderProgram> image_;   // balls seldom leave the court: made when it is first used
+    std::optional<ShaderProgram> adorned_; // for marks and outlines, which are for some players: likewise
     GlObject uniforms_;
     GlObject quads_;
     GlObject quadArray_;

@@ -51,7 +51,8 @@ void BallPlan::addBalls(const TrackedBalls& balls, PixelRect BallTraces::*kind) 
             const BallTraces* self = kind == &BallTraces::seen ? &traces : nullptr;
             const DrawnBall& ball = traces.ball;
             quads_.push_back({placeOf(rect), list(balls, rect, self), glm::vec4(ball.centre, ball.radius),
-                              ball.orientation, ball.diffuse, ball.emission});
+                              ball.orientation, ball.diffuse, ball.emission,
+                              glm::vec2(static_cast<float>(ball.mark), ball.outlined ? 1 : 0)});
         }
     }
 }
@@ -72,6 +73,7 @@ void BallPlan::make(const TrackedBalls& balls, const TrackedFrame& rest) {
     addBalls(balls, &BallTraces::mirror);
     images_ = quads_.size() - regions_;
     addBalls(balls, &BallTraces::seen);
+    adorned_ = std::ranges::any_of(quads_, [](const BallQuad& quad) { return quad.look != glm::vec2(0); });
 }
 
 } // namespace vorbel

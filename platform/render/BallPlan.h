@@ -17,6 +17,7 @@ struct BallQuad {
     glm::mat3 orientation{1};
     glm::vec3 diffuse{0};
     glm::vec3 emission{0};
+    glm::vec2 look{0}; // its Mark as a number; 1: outlined
 };
 
 inline constexpr std::size_t mostPlaces = 512;
@@ -39,6 +40,7 @@ public:
     [[nodiscard]] std::size_t regions() const { return regions_; }
     [[nodiscard]] std::size_t images() const { return images_; }
     [[nodiscard]] std::size_t balls() const { return quads_.size() - regions_ - images_; }
+    [[nodiscard]] bool adorned() const { return adorned_; } // whether some ball is marked or outlined
 
 private:
     void setView(const TrackedFrame& rest);
@@ -51,6 +53,7 @@ private:
     std::vector<BallQuad> quads_;
     std::size_t regions_ = 0;
     std::size_t images_ = 0;
+    bool adorned_ = false;
     glm::vec2 size_{1}; // pixels
 };
 

@@ -13,6 +13,10 @@ layout(location = 4) in vec3 axisY;
 layout(location = 5) in vec3 axisZ;
 layout(location = 6) in vec3 diffuse;
 layout(location = 7) in vec3 emission;
+#ifdef ADORNED
+layout(location = 8) in vec2 look;
+flat out vec2 ballLook;
+#endif
 uniform highp sampler2DShadow shadowMap;
 flat out ivec2 list;
 flat out vec4 ball;
@@ -49,6 +53,9 @@ void main() {
     toPanels = tilt * transpose(mat3(axisX, axisY, axisZ));
     ballDiffuse = diffuse;
     ballEmission = emission;
+#ifdef ADORNED
+    ballLook = look;
+#endif
     lightShare = visibility();
     gl_Position = vec4(mix(part.xy, part.zw, corner) * 2.0 - 1.0, 0.0, 1.0);
 }
@@ -208,6 +215,16 @@ void main() {
     cover *= inFront;
     // A small ball gets a thin dark outline: it stands out from a ground that is as light as itself.
     float fine = max(1.0 / (outlineFocus * length(rayX.xyz)), 1.0); // of more lines
+#ifdef ADORNED
+    vec2 place = onDisc(nearest * ray - toBall, ray, rayX.xyz) / ball.w;
+    light = marked(light, place, 2.0 / pixelsAcross, ballDiffuse + ballEmission);
+    if (ballLook.y > 0.0) {
+        const float sunk = 0.6; // radii: lower than that below the centre is the court, into which a ball is pressed
+        float shown = ground.point.y < ball.y - sunk * ball.w ? 1.0 : inFront;
+        color = outlined(encoded(light), cover, (ball.w - off) / pixel, fine, shown);
+        return;
+    }
+#endif
     float outline = clamp((ball.w - off) / pixel + 0.5 + outlineWidth * fine, 0.0, 1.0) * inFront;
     outline *= outlineDepth * (1.0 - smoothstep(16.0, 40.0, pixelsAcross / fine));
     float all = cover + (1.0 - cover) * outline;

@@ -114,6 +114,8 @@ private:
                 glm::mat3(glm::dmat3(world) / scale)};
         (material.unlit ? ball.emission : ball.diffuse) = linearLight(material.diffuse);
         ball.emission += linearLight(material.emission);
+        ball.mark = material.mark;
+        ball.outlined = material.outlined;
         return true;
     }
 

@@ -42,6 +42,8 @@ struct DrawnBall {
     glm::mat3 orientation{1};   // from the ball's frame to the arena's
     glm::vec3 diffuse{0};       // linear light
     glm::vec3 emission{0};      // linear light
+    Mark mark = Mark::none;
+    bool outlined = false;
     bool operator==(const DrawnBall&) const = default;
 };
 

@@ -25,11 +25,13 @@ extern const std::string_view pieceVertex;
 extern const std::string_view encodeFragment; // linear light to dithered sRGB
 
 // Rectangles of the layer, one an instance: the stage with the shadows of the balls on it, and the balls
-// themselves. The fragment shaders need the reading of the stage before them. Switch: MIRROR.
+// themselves. The fragment shaders need the reading of the stage before them. Switches: MIRROR, and
+// ADORNED (marks and outlines; the ball's fragment shader needs its adornment before it then).
 extern const std::string_view regionVertex;
 extern const std::string_view ballVertex;
 extern const std::string_view stageReading;
 extern const std::string_view regionFragment;
 extern const std::string_view ballFragment;
+extern const std::string_view ballAdornment;
 
 } // namespace vorbel::shaders

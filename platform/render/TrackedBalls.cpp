@@ -35,10 +35,10 @@ Extent groundBelow(const DrawnBall& ball, const std::optional<glm::vec4>& floor)
     return extent;
 }
 
-// With room for the outline.
-PixelRect withEdge(const PixelRect& rect, const Perspective& view) {
-    constexpr int lines = 400; // the outline is a pixel and a half wide in pictures of 800 lines
-    const int edge = 2 + view.height / lines;
+// With room for the outline. The usual one is a pixel and a half wide in pictures of 800 lines; the two lines around an
+// outlined ball have three and a half together there, and no less in smaller pictures.
+PixelRect withEdge(const PixelRect& rect, const Perspective& view, bool outlined) {
+    const int edge = outlined ? 4 + view.height / 200 : 2 + view.height / 400;
     return rect.empty() ? rect
                         : common({rect.left - edge, rect.bottom - edge, rect.right + edge, rect.top + edge},
                                  {0, 0, view.width, view.height});
@@ -50,11 +50,11 @@ BallTraces tracesOf(const DrawnBall& ball, const TrackedFrame& rest) {
     const DrawItem* floorItem = floorOf(frame);
     const auto floor = floorItem != nullptr ? std::optional(planeOf(*floorItem)) : std::nullopt;
     const Extent extent = extentOf(ball);
-    BallTraces traces{ball, withEdge(view.bounds(extent), view), {}, {}};
+    BallTraces traces{ball, withEdge(view.bounds(extent), view, ball.outlined), {}, {}};
     traces.all = united(traces.seen, view.bounds(groundBelow(ball, floor)));
     const bool isAboveFloor = floor && glm::dot(glm::vec3(*floor), ball.centre) + floor->w > 0;
     if (isAboveFloor) {
-        traces.mirror = withEdge(view.bounds(mirrored(extent, *floor)), view);
+        traces.mirror = withEdge(view.bounds(mirrored(extent, *floor)), view, false);
         traces.mirror = rest.hidesFloor(traces.mirror) ? PixelRect{} : traces.mirror;
         traces.all = united(traces.all, traces.mirror);
     }

@@ -167,6 +167,24 @@ TEST_F(ChangesTest, BallBesideTheCourtIsMirroredInTheFloor) {
     }
 }
 
+TEST_F(ChangesTest, MarksAndLinesMoveWithTheirBallsAndGoWithoutATrace) {
+    const QImage plain = drawWith(*changes, arena.frame(1));
+    setBallLook(arena.scene, {.marked = true, .outlined = true});
+    expectSame(arena.frame(1), "marked");
+    EXPECT_NE(drawWith(*changes, arena.frame(1)), plain);
+    setBallLook(arena.scene, {});
+    EXPECT_EQ(drawWith(*changes, arena.frame(1)), plain);
+    setBallLook(arena.scene, {.outlined = true});
+    for (int tick = 1; tick <= 60; ++tick) {
+        arena.step();
+        if (tick % 12 == 0) {
+            expectSame(arena.frame(0.5), "tick " + std::to_string(tick));
+        } else {
+            drawWith(*changes, arena.frame(0.5));
+        }
+    }
+}
+
 TEST_F(ChangesTest, RendererMadeAnewStartsFromNothing) {
     drawWith(*changes, arena.frame(1));
     arena.step();

@@ -71,6 +71,29 @@ TEST_F(TrackedBallsTest, BallThatIsGoneLeavesItsPlaceToBeDrawn) {
     EXPECT_THAT(balls.regions(), testing::ElementsAre(before));
 }
 
+TEST_F(TrackedBallsTest, LinesAroundABallHaveRoom) {
+    const PixelRect before = balls.balls()[1].seen; // the nearer one
+    frame.balls[0].outlined = true;
+    follow();
+    EXPECT_GE(before.left - balls.balls()[1].seen.left, 2) << "3.5 pixels around it, where 1.5 were";
+    EXPECT_TRUE(anyContains(balls.balls()[1].seen));
+    frame.balls[0].outlined = false;
+    const PixelRect outlined = balls.balls()[1].seen;
+    follow();
+    EXPECT_TRUE(anyContains(outlined)) << "they go";
+}
+
+TEST_F(TrackedBallsTest, PlanTellsWhetherSomeBallIsAdorned) {
+    BallPlan plan;
+    plan.make(balls, rest);
+    EXPECT_FALSE(plan.adorned());
+    frame.balls[0].mark = Mark::cross;
+    follow();
+    plan.make(balls, rest);
+    EXPECT_TRUE(plan.adorned());
+    EXPECT_EQ(plan.quads().back().look, glm::vec2(2, 0)) << "as the shader reads it";
+}
+
 TEST_F(TrackedBallsTest, FartherBallsAreDrawnFirst) {
     std::ranges::swap(frame.balls[0], frame.balls[1]);
     follow();

@@ -26,6 +26,27 @@ TEST(BallTest, EachKindHasItsNameAndItsColour) {
     EXPECT_FALSE(isBall(Node()));
 }
 
+TEST(BallTest, RedOnesCarryRingsAndBlueOnesCrossesByALook) {
+    Scene scene;
+    for (const BallColor kind : {BallColor::red, BallColor::blue, BallColor::jack}) {
+        scene.root->addChild(makeBall(kind, {}, PhysicsBody::Type::dynamic));
+    }
+    scene.root->addChild(std::make_shared<Node>(Geometry{Sphere{1}, {}}));
+    const auto material = [&](std::size_t node) { return scene.root->children()[node]->geometry->material; };
+    const Material red = material(0);
+    setBallLook(scene, {.marked = true});
+    EXPECT_EQ(material(0).mark, Mark::ring);
+    EXPECT_EQ(material(1).mark, Mark::cross);
+    EXPECT_EQ(material(2).mark, Mark::none);
+    EXPECT_FALSE(material(0).outlined);
+    setBallLook(scene, {.outlined = true});
+    EXPECT_EQ(material(0).mark, Mark::none);
+    EXPECT_TRUE(material(0).outlined && material(1).outlined && material(2).outlined);
+    EXPECT_EQ(material(3), Material{}) << "no ball";
+    setBallLook(scene, {});
+    EXPECT_EQ(material(0), red);
+}
+
 TEST(BallTest, ItsBodyIsThatOfALeatherBall) {
     const auto body = makeBallBody(PhysicsBody::Type::dynamic);
     EXPECT_EQ(body->mass, 0.2);
