@@ -45,7 +45,8 @@ class Service:
         self.process.wait(PATIENCE)
 
     def spoken(self):
-        return self.file.read_text() if self.file.exists() else ""
+        """The names of some languages come in the synthesizer's own encoding, which is not the game's doing."""
+        return self.file.read_text(errors="replace") if self.file.exists() else ""
 
     def wait_for(self, part):
         wait_until(lambda: part in self.spoken(), lambda: f"'{part}' in '{self.spoken()}'")
