@@ -42,7 +42,7 @@ void MenuDiary::read(std::string json) {
         return;
     }
     beginResetModel();
-    entries_ = readDiary(json).entries;
+    entries_ = decodeDiary(json);
     json_ = std::move(json);
     endResetModel();
     emit readAgain();
