@@ -54,46 +54,24 @@ bool isEntry(const ordered_json& value) {
            isInt(value["xpGained"]);
 }
 
-void take(ReadDiary& diary, const ordered_json& value) {
-    if (isEntry(value)) {
-        diary.entries.push_back(
-            {value["id"], fromNumber(value["date"]), value["resultKey"], value["xpGained"]});
-    } else {
-        diary.damaged = true;
-    }
-}
-
-// What lies between a brace and the next that closes one stands for itself: an entry holds no other object.
-ReadDiary salvaged(std::string_view text) {
-    ReadDiary diary{.entries = {}, .damaged = true};
-    for (std::size_t close = text.find('}'); close != std::string_view::npos; close = text.find('}')) {
-        const std::size_t open = text.substr(0, close).rfind('{');
-        if (open != std::string_view::npos) {
-            take(diary, ordered_json::parse(text.substr(open, close + 1 - open), nullptr, false));
-        }
-        text.remove_prefix(close + 1);
-    }
-    return diary;
-}
-
 } // namespace
 
 ReadDiary readDiary(std::string_view json) {
     const ordered_json document = ordered_json::parse(json, nullptr, false);
-    if (!document.is_array()) {
-        return salvaged(json);
+    if (!document.is_array() || !std::ranges::all_of(document, isEntry)) {
+        return {.entries = {}, .damaged = true};
     }
     ReadDiary diary;
     diary.entries.reserve(document.size());
     for (const ordered_json& value : document) {
-        take(diary, value);
+        diary.entries.push_back(
+            {value["id"], fromNumber(value["date"]), value["resultKey"], value["xpGained"]});
     }
     return diary;
 }
 
 std::vector<DiaryEntry> decodeDiary(std::string_view json) {
-    ReadDiary diary = readDiary(json);
-    return diary.damaged ? std::vector<DiaryEntry>() : std::move(diary.entries);
+    return readDiary(json).entries;
 }
 
 std::string encodeDiary(const std::vector<DiaryEntry>& entries) {

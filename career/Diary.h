@@ -17,8 +17,8 @@ struct DiaryEntry {
 };
 
 struct ReadDiary {
-    std::vector<DiaryEntry> entries;
-    bool damaged = false; // there may have been more entries
+    std::vector<DiaryEntry> entries; // none of a damaged diary
+    bool damaged = false;
 };
 
 // The stored form is a JSON array, newest entry first; dates count seconds since the start of 2001, UTC.
@@ -26,10 +26,9 @@ struct ReadDiary {
 // is damaged.
 [[nodiscard]] std::string encodeDiary(const std::vector<DiaryEntry>& entries);
 
-// The entries that can be read, also from a damaged diary: those before its cut end, those beside a bad one.
 [[nodiscard]] ReadDiary readDiary(std::string_view json);
 
-// The entries of a diary that is not damaged. A damaged one counts as empty.
+// Its entries alone.
 [[nodiscard]] std::vector<DiaryEntry> decodeDiary(std::string_view json);
 
 } // namespace vorbel

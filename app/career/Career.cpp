@@ -68,11 +68,8 @@ void Career::addMatch(int redScore, int blueScore) {
 void Career::appendDiaryEntry(const DiaryEntry& entry) {
     const std::string stored = diaryData();
     ReadDiary diary = readDiary(stored);
-    if (diary.damaged) {
-        diary.entries.clear();
-        if (!stored.empty()) {
-            defaults_.setAside(diaryDataKey);
-        }
+    if (diary.damaged && !stored.empty()) {
+        defaults_.setAside(diaryDataKey);
     }
     diary.entries.insert(diary.entries.begin(), entry);
     defaults_.setBytes(diaryDataKey, encodeDiary(diary.entries));

@@ -69,7 +69,7 @@ void fuzzSettings(std::string_view content) {
 
 void fuzzDiary(std::string_view json) {
     const ReadDiary diary = readDiary(json);
-    require(decodeDiary(json) == (diary.damaged ? std::vector<DiaryEntry>() : diary.entries));
+    require(!diary.damaged || diary.entries.empty());
     const ReadDiary again = readDiary(encodeDiary(diary.entries));
     require(!again.damaged && std::ranges::equal(again.entries, diary.entries, isSameEntry));
 }

@@ -81,36 +81,20 @@ TEST(DiaryTest, AWholeDiaryIsNotDamaged) {
     EXPECT_TRUE(readDiary("").damaged);
 }
 
-TEST(DiaryTest, OneBadEntryAmongFiveHundredCostsNoOther) {
-    const std::vector<DiaryEntry> written(500, entry());
-    std::string json = encodeDiary(written);
+TEST(DiaryTest, OneBadEntryAmongFiveHundredDamagesTheWholeDiary) {
+    std::string json = encodeDiary(std::vector<DiaryEntry>(500, entry()));
     json.replace(json.find("\"id\"", json.size() / 2), 4, "\"Id\""); // a member's name
     const ReadDiary diary = readDiary(json);
-    EXPECT_EQ(diary.entries, std::vector(499, entry()));
     EXPECT_TRUE(diary.damaged);
-    EXPECT_TRUE(decodeDiary(json).empty());
+    EXPECT_TRUE(diary.entries.empty());
 }
 
-TEST(DiaryTest, ABrokenEntryCostsNoOtherWhereverAByteIsLost) {
-    const std::string one = encodeDiary({entry()});
-    const std::string inner = one.substr(1, one.size() - 2);
-    for (std::size_t lost = 0; lost < inner.size(); ++lost) {
-        std::string broken = inner;
-        broken.erase(lost, 1);
-        const ReadDiary diary = readDiary("[" + inner + "," + broken + "," + inner + "]");
-        EXPECT_GE(diary.entries.size(), 2U) << broken; // three where a digit of a number is missing
-        EXPECT_EQ(diary.entries.front(), entry()) << broken;
-        EXPECT_EQ(diary.entries.back(), entry()) << broken;
-    }
-}
-
-TEST(DiaryTest, OfACutDiaryAllEntriesBeforeTheCutAreRead) {
+TEST(DiaryTest, ACutDiaryIsDamagedWhereverItIsCut) {
     const std::string json = encodeDiary({entry(), entry(), entry()});
-    const std::size_t each = (json.size() - 1) / 3; // an entry, and what separates it from the one before
     for (std::size_t length = 0; length < json.size(); ++length) {
         const ReadDiary diary = readDiary(json.substr(0, length));
-        EXPECT_EQ(diary.entries, std::vector(length / each, entry())) << length;
         EXPECT_TRUE(diary.damaged) << length;
+        EXPECT_TRUE(diary.entries.empty()) << length;
     }
 }
 
