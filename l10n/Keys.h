@@ -5,8 +5,8 @@
 // left to right, so every language has them in the same number and order.
 //
 // A new language: a case in AppLanguage.h with its row in AppLanguage.cpp, files texts/CODE.h, extra/CODE.h,
-// options/CODE.h and spoken/CODE.h in the form of the English ones, and one include and one row for each of
-// them in Texts.cpp and the Languages.h beside it.
+// options/CODE.h and spoken/CODE.h in the form of the English ones, and one include in the
+// Languages.h beside each of the last three, and one row in Texts.cpp and ExtraTexts.cpp.
 // Texts of `keys` that a language lacks are shown in English; those of `extraKeys` are complete. A key that
 // is unknown, given twice or out of order, an empty text, or a language listed twice does not compile.
 #pragma once

@@ -21,17 +21,3 @@
 #include "l10n/extra/uk.h"
 #include "l10n/extra/vi.h"
 #include "l10n/extra/zh.h"
-
-namespace vorbel::L10n::extra {
-
-inline constexpr auto languages = std::to_array<LanguageTexts>({
-    {AppLanguage::ru, ru}, {AppLanguage::en, en}, {AppLanguage::es, es}, {AppLanguage::fr, fr},
-    {AppLanguage::de, de}, {AppLanguage::it, it}, {AppLanguage::pt, pt}, {AppLanguage::zh, zh},
-    {AppLanguage::ja, ja}, {AppLanguage::ko, ko}, {AppLanguage::ar, ar}, {AppLanguage::hi, hi},
-    {AppLanguage::tr, tr}, {AppLanguage::pl, pl}, {AppLanguage::nl, nl}, {AppLanguage::uk, uk},
-    {AppLanguage::vi, vi}, {AppLanguage::th, th}, {AppLanguage::id, id}, {AppLanguage::el, el},
-});
-
-inline constexpr auto table = tableOf(pageKeys, languages);
-
-} // namespace vorbel::L10n::extra

@@ -21,17 +21,3 @@
 #include "l10n/options/uk.h"
 #include "l10n/options/vi.h"
 #include "l10n/options/zh.h"
-
-namespace vorbel::L10n::options {
-
-inline constexpr auto languages = std::to_array<LanguageTexts>({
-    {AppLanguage::ru, ru}, {AppLanguage::en, en}, {AppLanguage::es, es}, {AppLanguage::fr, fr},
-    {AppLanguage::de, de}, {AppLanguage::it, it}, {AppLanguage::pt, pt}, {AppLanguage::zh, zh},
-    {AppLanguage::ja, ja}, {AppLanguage::ko, ko}, {AppLanguage::ar, ar}, {AppLanguage::hi, hi},
-    {AppLanguage::tr, tr}, {AppLanguage::pl, pl}, {AppLanguage::nl, nl}, {AppLanguage::uk, uk},
-    {AppLanguage::vi, vi}, {AppLanguage::th, th}, {AppLanguage::id, id}, {AppLanguage::el, el},
-});
-
-inline constexpr auto table = tableOf(optionKeys, languages);
-
-} // namespace vorbel::L10n::options
