@@ -24,11 +24,4 @@ public:
     [[nodiscard]] virtual bool isAnyConnected() const = 0;
 };
 
-// None, ever.
-class NoControllers final : public Controllers {
-public:
-    void poll(const Listener& /*listener*/) override {}
-    [[nodiscard]] bool isAnyConnected() const override { return false; }
-};
-
 } // namespace vorbel
