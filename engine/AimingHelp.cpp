@@ -20,14 +20,6 @@ void GameLogic::changePower(double percent) {
     }
 }
 
-void GameLogic::turnAimBy(double angle) {
-    turnAim(angle);
-}
-
-void GameLogic::raiseAimBy(double angle) {
-    raiseAim(angle);
-}
-
 void GameLogic::takeBack() {
     if (isCurrentTurnAI()) {
         return;

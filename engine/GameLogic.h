@@ -107,8 +107,8 @@ public:
     [[nodiscard]] double powerPace() const { return state_.powerPace; }
     [[nodiscard]] bool humanSetsPower() const; // the power waits to be set by hand
     void changePower(double percent);          // only while humanSetsPower(), within the range of the swing
-    void turnAimBy(double angle);              // rad; like moveAimLeft and moveAimRight
-    void raiseAimBy(double angle);             // rad; like moveAimUp and moveAimDown
+    void turnAim(double angle);                // rad; like moveAimLeft and moveAimRight
+    void raiseAim(double angle);               // rad; like moveAimUp and moveAimDown
     void takeBack(); // a human's last stage: the power, then the aim; nothing once the ball is released
 
     // --- engine/Throwing.cpp
@@ -162,8 +162,6 @@ private:
 
     void tick();
     [[nodiscard]] bool humanSetsAngle() const;
-    void turnAim(double angle);
-    void raiseAim(double angle);
     void advanceHumanThrow();
     [[nodiscard]] bool powerIsSetByHand() const { return state_.powerPace == 0; }
     void beginThrow();

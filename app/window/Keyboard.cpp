@@ -62,13 +62,13 @@ void Keyboard::arrow(void (GameLogic::*aiming)(), double powerChange) {
 
 void Keyboard::turn(double angle) {
     if (menu_.isHidden()) {
-        match_.turnAimBy(angle);
+        match_.turnAim(angle);
     }
 }
 
 void Keyboard::raise(double angle) {
     if (menu_.isHidden()) {
-        match_.raiseAimBy(angle);
+        match_.raiseAim(angle);
     }
 }
 

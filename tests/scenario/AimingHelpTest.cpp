@@ -67,12 +67,12 @@ TEST_F(AimingHelpTest, OnlyAPowerThatStandsIsSetByHand) {
 
 TEST_F(AimingHelpTest, FineStepsAimWithinTheSameLimits) {
     press();
-    game.turnAimBy(0.01);
-    game.raiseAimBy(0.02);
+    game.turnAim(0.01);
+    game.raiseAim(0.02);
     EXPECT_DOUBLE_EQ(game.aimAngle, 0.01);
     EXPECT_DOUBLE_EQ(game.aimPitch, 0.02);
-    game.turnAimBy(-10);
-    game.raiseAimBy(-10);
+    game.turnAim(-10);
+    game.raiseAim(-10);
     EXPECT_EQ(game.aimAngle, -aim::angleLimit);
     EXPECT_EQ(game.aimPitch, 0);
 }
@@ -80,7 +80,7 @@ TEST_F(AimingHelpTest, FineStepsAimWithinTheSameLimits) {
 TEST_F(AimingHelpTest, FineStepsDoNotRaiseARampThrow) {
     game.playerClass = BocciaClass::bc3;
     press();
-    game.raiseAimBy(0.01);
+    game.raiseAim(0.01);
     EXPECT_EQ(game.aimPitch, 0);
 }
 
