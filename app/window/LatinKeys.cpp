@@ -13,10 +13,10 @@ namespace {
 
 struct Row {
     quint32 firstCode; // of the kernel, and 8 more
-    std::string_view letters;
+    std::string_view keys;
 };
 
-constexpr Row rows[] = {{24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52, "ZXCVBNM"}};
+constexpr Row rows[] = {{24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52, "ZXCVBNM,"}};
 
 bool isLetterOfAnotherScript(int key) {
     constexpr int lastOfLatin1 = 0xff;
@@ -30,10 +30,10 @@ constexpr Qt::KeyboardModifiers modifiers =
 
 Qt::Key latinKeyAt(const QKeyEvent& event) {
     if (isLetterOfAnotherScript(event.key())) {
-        for (const auto& [first, letters] : rows) {
+        for (const auto& [first, keys] : rows) {
             const quint32 place = event.nativeScanCode() - first; // wraps around before the row
-            if (place < letters.size()) {
-                return static_cast<Qt::Key>(letters[place]);
+            if (place < keys.size()) {
+                return static_cast<Qt::Key>(keys[place]);
             }
         }
     }

@@ -31,7 +31,7 @@ TEST_F(LatinKeysTest, ALetterOfAnotherScriptStandsForTheLatinOneAtItsPlace) {
     EXPECT_EQ(latinKey(0x0410, 41), Qt::Key_F);
 }
 
-TEST_F(LatinKeysTest, EachRowEndsWhereItsLettersEnd) {
+TEST_F(LatinKeysTest, EachRowEndsWhereItsKeysEnd) {
     constexpr int yer = 0x042a;
     EXPECT_EQ(latinKey(yer, 23), Qt::Key(0));
     EXPECT_EQ(latinKey(yer, 24), Qt::Key_Q);
@@ -42,7 +42,8 @@ TEST_F(LatinKeysTest, EachRowEndsWhereItsLettersEnd) {
     EXPECT_EQ(latinKey(yer, 47), Qt::Key(0));
     EXPECT_EQ(latinKey(yer, 52), Qt::Key_Z);
     EXPECT_EQ(latinKey(yer, 58), Qt::Key_M);
-    EXPECT_EQ(latinKey(yer, 59), Qt::Key(0));
+    EXPECT_EQ(latinKey(yer, 59), Qt::Key_Comma);
+    EXPECT_EQ(latinKey(yer, 60), Qt::Key(0));
 }
 
 TEST_F(LatinKeysTest, WhatTheToolkitKnowsItselfIsLeftToIt) {
