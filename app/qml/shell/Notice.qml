@@ -23,7 +23,7 @@ FocusScope {
     }
     ColumnLayout {
         anchors.centerIn: parent
-        width: Math.min(parent.width - 4 * Theme.margin, Theme.point * 900)
+        width: Math.min(parent.width - 4 * Theme.margin, 900)
         spacing: 2 * Theme.margin
 
         Label {
