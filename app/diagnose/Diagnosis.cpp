@@ -3,7 +3,8 @@
 #include "app/command_line/Version.h"
 #include "app/diagnose/FontFacts.h"
 #include "app/session/Log.h"
-#include "platform/audio/SdlFacts.h"
+#include "platform/audio/SoundFacts.h"
+#include "platform/controllers/ControllerNames.h"
 #include "platform/render/DriverFacts.h"
 #include "platform/resources/Resources.h"
 
