@@ -82,7 +82,7 @@ int WindowedGame::run() {
     if (isDoing(CommandLine::Action::demonstrate)) {
         demonstration_.emplace(view_, queue_, *window, commandLine_.screenshotsFolder);
     } else if (isDoing(CommandLine::Action::diagnose)) {
-        frameTest_.emplace(view_, *window);
+        frameRate_.emplace(view_, *window);
     }
     const int status = QGuiApplication::exec();
     lastSession().reset();

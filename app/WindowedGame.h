@@ -5,7 +5,7 @@
 #include "app/command_line/Demonstration.h"
 #include "app/command_line/Speed.h"
 #include "app/controller/ControllerInput.h"
-#include "app/diagnose/FrameTest.h"
+#include "app/diagnose/FrameRate.h"
 #include "app/session/ScreenSaver.h"
 #include "app/shell/NotificationCenter.h"
 #include "app/shell/QtWindowFrame.h"
@@ -63,7 +63,7 @@ private:
     std::optional<QtWindowFrame> frame_;
     std::optional<ScreenSaver> screenSaver_;
     std::optional<Demonstration> demonstration_;
-    std::optional<FrameTest> frameTest_;
+    std::optional<FrameRate> frameRate_;
 };
 
 } // namespace vorbel

@@ -1,4 +1,4 @@
-#include "app/diagnose/FrameTest.h"
+#include "app/diagnose/FrameRate.h"
 
 #include "app/command_line/Output.h"
 
@@ -15,15 +15,15 @@ constexpr int patience = 20000; // ms until the first frame
 
 } // namespace
 
-FrameTest::FrameTest(ContentView& view, QQuickWindow& window) : window_(window) {
+FrameRate::FrameRate(ContentView& view, QQuickWindow& window) : window_(window) {
     view.openMenu().setMenuScreen(MenuScreen::hidden);
     view.settings()->setRedAIOn(true);
     view.settings()->setBlueAIOn(true);
-    connect(&window, &QQuickWindow::frameSwapped, this, &FrameTest::frameShown, Qt::QueuedConnection);
-    QTimer::singleShot(patience, this, &FrameTest::finish);
+    connect(&window, &QQuickWindow::frameSwapped, this, &FrameRate::frameShown, Qt::QueuedConnection);
+    QTimer::singleShot(patience, this, &FrameRate::finish);
 }
 
-void FrameTest::frameShown() {
+void FrameRate::frameShown() {
     if (!sinceFirst_.isValid()) {
         sinceFirst_.start();
     } else {
@@ -36,7 +36,7 @@ void FrameTest::frameShown() {
     }
 }
 
-void FrameTest::finish() {
+void FrameRate::finish() {
     const QString size = QStringLiteral("%1 × %2").arg(window_.width()).arg(window_.height());
     const QString drawn = QQuickWindow::sceneGraphBackend() == QLatin1String("software")
                               ? QStringLiteral("without the arena")

@@ -11,12 +11,12 @@ class QQuickWindow;
 namespace vorbel {
 
 // Lets the computer play itself in the window for two seconds from the first frame on, asks for a frame as soon as
-// one was shown, prints one line and ends the application; also when no frame ever comes. View and window must outlive it.
-class FrameTest final : public QObject {
+// one was shown, prints one line and ends the application; also when no frame ever comes. The window must outlive it.
+class FrameRate final : public QObject {
     Q_OBJECT
 
 public:
-    FrameTest(ContentView& view, QQuickWindow& window);
+    FrameRate(ContentView& view, QQuickWindow& window);
 
 private:
     void frameShown();
