@@ -112,7 +112,7 @@ void WindowedGame::connectWindow(QQuickWindow& window) {
     view_.oneSwitch()->setWindow(window);
     QObject::connect(&controllerInput_, &ControllerInput::keyPressed, &window,
                      [&window](Qt::Key key) { sendKey(window, key); });
-    screenSaver_.emplace(view_);
+    screenSaver_.emplace(view_.gameLogic(), view_.openMenu(), view_.changes());
 }
 
 void WindowedGame::tellOfLastSession() {

@@ -1,6 +1,7 @@
 #include "app/session/ScreenSaver.h"
 
-#include "app/window/ContentView.h"
+#include "app/menu/OpenMenu.h"
+#include "app/window/MatchChanges.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -22,25 +23,24 @@ QDBusMessage call(const QString& method, const QVariantList& arguments) {
 
 } // namespace
 
-ScreenSaver::ScreenSaver(ContentView& view) : view_(view) {
-    connect(&view.changes(), &MatchChanges::changed, this, &ScreenSaver::follow);
-    connect(&view.openMenu(), &OpenMenu::menuScreenChanged, this, &ScreenSaver::follow);
+ScreenSaver::ScreenSaver(const GameLogic& match, const OpenMenu& menu, const MatchChanges& changes)
+    : match_(match), menu_(menu) {
+    connect(&changes, &MatchChanges::changed, this, &ScreenSaver::follow);
+    connect(&menu, &OpenMenu::menuScreenChanged, this, &ScreenSaver::follow);
 }
 
 ScreenSaver::~ScreenSaver() {
     letGo();
 }
 
-bool ScreenSaver::isWatching(ContentView& view) {
-    const GameLogic& match = view.gameLogic();
+bool ScreenSaver::isWatching(const GameLogic& match, const OpenMenu& menu) {
     const bool throwing = match.phase == GamePhase::throwingJack || match.phase == GamePhase::playing;
-    return view.openMenu().isHidden() && throwing &&
-           (match.aimState == AimState::thrown || match.isCurrentTurnAI());
+    return menu.isHidden() && throwing && (match.aimState == AimState::thrown || match.isCurrentTurnAI());
 }
 
 // A desktop that refuses is not asked again before there is something new to watch.
 void ScreenSaver::follow() {
-    const bool wantedBefore = std::exchange(wanted_, isWatching(view_));
+    const bool wantedBefore = std::exchange(wanted_, isWatching(match_, menu_));
     if (wanted_ && !wantedBefore && cookie_ == 0 && !asked_) {
         hold();
     } else if (!wanted_) {

@@ -6,7 +6,7 @@ namespace vorbel {
 
 class WatchingTest : public ViewTest {
 protected:
-    bool watching() { return ScreenSaver::isWatching(view); }
+    bool watching() { return ScreenSaver::isWatching(match, openMenu); }
 };
 
 TEST_F(WatchingTest, WhoIsToThrowDoesNotOnlyWatch) {
