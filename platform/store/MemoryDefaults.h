@@ -3,6 +3,8 @@
 
 #include "platform/store/ValueDefaults.h"
 
+#include <map>
+
 namespace vorbel {
 
 class MemoryDefaults final : public ValueDefaults {

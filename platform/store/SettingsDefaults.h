@@ -4,6 +4,7 @@
 #include "platform/store/ValueDefaults.h"
 
 #include <filesystem>
+#include <map>
 
 namespace vorbel {
 

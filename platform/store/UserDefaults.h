@@ -2,11 +2,9 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 
 namespace vorbel {
 
