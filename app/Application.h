@@ -5,7 +5,7 @@
 
 namespace vorbel {
 
-// Does what was asked for (play, demonstrate or takeScreenshot) and returns the exit status.
+// Does what was asked for (play, demonstrate, takeScreenshot or diagnose) and returns the exit status.
 [[nodiscard]] int runApplication(int argc, char** argv, const CommandLine& commandLine);
 
 } // namespace vorbel

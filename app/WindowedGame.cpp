@@ -27,7 +27,7 @@ QIcon windowIcon(const Resources& resources) {
     return icon;
 }
 
-// Beyond the game: the toolkit leaves by exit() when the display goes, which is the end of the desktop's session and
+// Outlives the game: the toolkit leaves by exit() when the display goes, which is the end of the desktop's session and
 // a good one.
 std::optional<LastSession>& lastSession() {
     static std::optional<LastSession> last;

@@ -23,7 +23,7 @@ class MenuDiary : public QAbstractListModel {
 public:
     enum Role { dateRole = Qt::UserRole, resultRole };
 
-    // Shows what can be read of what is stored as JSON. The same text is not read twice.
+    // Shows the diary that is stored as JSON; nothing of a damaged one. The same text is not read twice.
     void read(std::string json);
     void setLanguage(AppLanguage language);
 

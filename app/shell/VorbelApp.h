@@ -40,7 +40,7 @@ public:
     // Both must outlive it.
     VorbelApp(const PlayerSettings& settings, const NotificationCenter& notifications);
 
-    // The one window, which must outlive this. Until it is set, full screen does nothing.
+    // The one window, which must be there whenever full screen is asked for. Until it is set nothing happens then.
     void setWindow(WindowFrame& window) { window_ = &window; }
 
     [[nodiscard]] AppLanguage language() const { return language_; }

@@ -37,8 +37,8 @@ void SwitchMenu::beginAnew() {
 
 // From the control that has the keyboard, which is the one to go on with.
 void SwitchMenu::gather() {
-    constexpr std::size_t more =
-        500; // than any screen has: the chain of an unfinished screen may be no circle
+    // Than any screen has: the chain of an unfinished screen may be no circle.
+    constexpr std::size_t more = 500;
     controls_.clear();
     std::vector<int> groups;
     std::vector<const QQuickItem*> known{nullptr}; // by number

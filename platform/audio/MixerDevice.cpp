@@ -45,8 +45,8 @@ bool isSoundlessMixerOpened() {
 
 std::shared_ptr<MixerDevice> MixerDevice::open() {
     const QuietAlsa quiet;
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS,
-                "1"); // SDL would keep Ctrl-C and SIGTERM from ending the program
+    // SDL would keep Ctrl-C and SIGTERM from ending the program.
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     return isMixerOpened() || isSoundlessMixerOpened() ? std::make_shared<MixerDevice>() : nullptr;
 }
 

@@ -68,8 +68,8 @@ private:
 };
 
 SdlControllers::SdlControllers() {
-    SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS,
-                "1"); // SDL has no window that could have the focus
+    // SDL has no window that could have the focus.
+    SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER);
 }

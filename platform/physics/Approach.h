@@ -7,8 +7,7 @@ class btPersistentManifold;
 namespace vorbel {
 
 struct Approach {
-    double
-        gap; // m between the surfaces at the nearest contact; negative when they overlap, infinite when far
+    double gap;   // m between the surfaces at the nearest contact; below 0: they overlap; infinite: far apart
     double speed; // m/s along the normal of that contact; negative when they part
 };
 

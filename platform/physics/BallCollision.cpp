@@ -31,8 +31,7 @@ double timeToReach(const btVector3& offset, const btVector3& velocity, double di
     if (approach <= 0 || discriminant < 0) {
         return std::numeric_limits<double>::infinity();
     }
-    return excess /
-           (approach + std::sqrt(discriminant)); // the earlier root, in its form without cancellation
+    return excess / (approach + std::sqrt(discriminant)); // the earlier root, without cancellation
 }
 
 btManifoldPoint makePoint(const btCollisionObject& a, const btCollisionObject& b, const btVector3& normal) {

@@ -36,8 +36,8 @@ public:
 
 private:
     static std::size_t indexOf(const btCollisionObject& rigid);
-    [[nodiscard]] std::size_t
-    find(const SceneBody& wanted) const; // the number of bodies when it is not there
+    // The number of bodies when it is not there.
+    [[nodiscard]] std::size_t find(const SceneBody& wanted) const;
     void wakeNear(const SceneBody& place);
 
     std::vector<std::unique_ptr<SceneBody>> bodies_; // Bullet keeps their addresses

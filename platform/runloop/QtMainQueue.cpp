@@ -53,9 +53,9 @@ Subscription QtMainQueue::repeat(double period, Task task) {
 }
 
 void QtMainQueue::schedule(const std::shared_ptr<Repetition>& repetition) {
+    // Whole periods that have passed are dropped.
     const double periodsPassed = std::floor((now() - repetition->due) / repetition->period);
-    repetition->due +=
-        repetition->period * (1.0 + std::max(periodsPassed, 0.0)); // whole periods late are dropped
+    repetition->due += repetition->period * (1.0 + std::max(periodsPassed, 0.0));
     repetition->timer.start(millisecondsUntil(repetition->due));
 }
 

@@ -12,8 +12,7 @@ struct Light {
     Color color = colors::white;
     double intensity = 1000; // per thousand: 1000 lights a white surface that faces the light to full white
 
-    // Spot lights only. Angles from the axis, degrees: full strength inside the inner, none outside the
-    // outer.
+    // Spot lights only. Angles from the axis, degrees: full strength within the inner, none beyond the outer.
     double spotInnerAngle = 0;
     double spotOuterAngle = 45;
     bool castsShadow = false;

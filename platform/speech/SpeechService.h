@@ -21,8 +21,7 @@ public:
     void hush() override;
 
 private:
-    // Shared with the thread, which may outlive this when the service does not answer; null until the first
-    // say.
+    // Shared with the thread, which may outlive this when the service does not answer; null before the first text.
     std::shared_ptr<UtteranceQueue> queue_;
 };
 

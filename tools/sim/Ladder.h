@@ -14,8 +14,8 @@ namespace vorbel::sim {
 using WinTable = std::array<std::array<int, allDifficulties.size()>, allDifficulties.size()>;
 
 struct LadderSettings {
-    int matchesPerCell =
-        100; // at most 2³⁰; with either level of a pair as red, so a pair plays twice as many
+    // At most 2³⁰. Either level of a pair plays red once, so a pair plays twice as many.
+    int matchesPerCell = 100;
     std::uint64_t firstSeed = 1;
     unsigned jobs = 1; // threads; more than 256, or than the system gives, are as many as there are
 };

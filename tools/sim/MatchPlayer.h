@@ -20,10 +20,9 @@ struct Throw {
     BallColor ball = BallColor::jack; // what was thrown
     BallColor side = BallColor::red;  // by whom
     int end = 1;
-    double angle = 0; // rad, as in GameLogic::aimAngle
-    double power = 0; // percent
-    std::vector<Node::Ptr>
-        balls{}; // all balls on the court in the order of their throws, at their last places
+    double angle = 0;               // rad, as in GameLogic::aimAngle
+    double power = 0;               // percent
+    std::vector<Node::Ptr> balls{}; // all on the court, in the order of their throws, at their last places
 };
 
 // One match from its first throw to its result. The same pairing gives the same match, another seed another one.

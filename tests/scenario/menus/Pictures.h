@@ -7,8 +7,7 @@
 
 namespace vorbel {
 
-// Saves it as LANGUAGE-SCREEN.png in the folder that the variable VORBEL_MENU_PICTURES names; without it,
-// not.
+// Saves it as LANGUAGE-SCREEN.png in the folder that the variable VORBEL_MENU_PICTURES names, if it is set.
 void keep(const QImage& picture, AppLanguage language, const char* screen);
 
 } // namespace vorbel

@@ -52,8 +52,7 @@ bool Desktop::pressUntilChanged(const QString& key, const QRect& part) const {
     return waitUntil([&] { return picture().copy(part) != before; });
 }
 
-// A window that is just coming or going cannot take the keyboard: the tool fails at once, and may succeed
-// later.
+// A window that is just coming or going cannot take the keyboard: the tool fails at once, and succeeds later.
 bool Desktop::focusGame() const {
     return waitUntil([] {
         return runTool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
@@ -64,8 +63,8 @@ bool Desktop::focusGame() const {
 
 void Desktop::startMatch() const {
     press(QStringLiteral("Return"));
-    for (int back = 0; back < 5;
-         ++back) { // from France over three countries to the two buttons behind the last
+    // From France over three countries to the two buttons behind the last.
+    for (int back = 0; back < 5; ++back) {
         press(QStringLiteral("shift+Tab"));
     }
     press(QStringLiteral("Return"));

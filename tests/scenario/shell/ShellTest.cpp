@@ -21,8 +21,8 @@ namespace {
 constexpr QRect windowed(57, 43, 1234, 855);
 constexpr QPoint inCourt(617, 480);  // of the window
 constexpr QPoint inMenuBar(700, 15); // of the window, in full screen of the screen too
-constexpr QPoint inGameMenu(240,
-                            144); // in the menu's own ground: in full screen its points are twice as large
+// In the menu's own ground: in full screen its points are twice as large.
+constexpr QPoint inGameMenu(240, 144);
 
 const QColor barColor(0x16, 0x16, 0x1f);
 const QColor menuColor(0x22, 0x22, 0x2e);
