@@ -15,7 +15,7 @@ constexpr double legible = 4.5; // Web Content Accessibility Guidelines, level A
 
 class ContrastTest : public testing::Test {
 protected:
-    MenuWindow game{Resources({VORBEL_RESOURCES_FOLDER})};
+    MenuWindow game;
 
     ContrastTest() { game.setLanguage(AppLanguage::en); }
 

@@ -1,54 +1,28 @@
-// The menu by keyboard alone, by mouse, and by assistive technology.
+// The menu by keyboard alone, and by mouse.
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include "app/text/Texts.h"
 
-#include <QAccessible>
-#include <QFileInfo>
 #include <QPointer>
 #include <QSet>
-#include <QTest>
-#include <QUrl>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace vorbel {
 
-namespace {
-
-constexpr MenuScreen allScreens[] = {MenuScreen::main,       MenuScreen::country, MenuScreen::bcClass,
-                                     MenuScreen::rules,      MenuScreen::about,   MenuScreen::diary,
-                                     MenuScreen::matchResult};
-
-QAccessibleInterface* accessible(QQuickItem& item) {
-    return QAccessible::queryAccessibleInterface(&item);
-}
-
-} // namespace
-
 class ControlsTest : public testing::Test {
 protected:
-    MenuWindow game{Resources({VORBEL_RESOURCES_FOLDER})};
+    MenuWindow game;
     ContentView& view = game.view();
     GameLogic& match = view.gameLogic();
 
     ControlsTest() { game.setLanguage(AppLanguage::en); }
 
-    QQuickItem& control(const QString& text) {
-        for (QQuickItem* item : game.controls()) {
-            if (item->property("text").toString() == text) {
-                return *item;
-            }
-        }
-        throw std::runtime_error("no control " + text.toStdString());
-    }
     void click(const QString& text) {
         game.layOut();
-        QTest::mouseClick(&game.window(), Qt::LeftButton, {}, inScene(control(text)).center().toPoint());
-        game.settle();
+        game.click(game.control(text));
     }
     QRectF countryGrid() {
         std::vector<QQuickItem*> found;
@@ -192,101 +166,12 @@ TEST_F(ControlsTest, TheMousePressesButtonsAndNothingBehindThem) {
         [](QQuickItem& item) { return isOfType(item, "DifficultyButton") || isOfType(item, "ToggleSwitch"); },
         behind);
     ASSERT_EQ(behind.size(), 6U) << "four levels and two switches";
-    for (const QQuickItem* item : behind) {
-        QTest::mouseClick(&game.window(), Qt::LeftButton, {}, inScene(*item).center().toPoint());
-        game.settle();
+    for (QQuickItem* item : behind) {
+        game.click(*item);
     }
     EXPECT_FALSE(view.settings()->redAIOn());
     EXPECT_FALSE(view.settings()->blueAIOn());
     EXPECT_EQ(view.settings()->difficulty(), AIDifficulty::medium);
-}
-
-TEST_F(ControlsTest, AssistiveTechnologyFindsANameARoleAndAPressOnEveryControl) {
-    view.career().setRealAthlete(true);
-    for (const MenuScreen screen : allScreens) {
-        game.open(screen);
-        for (QQuickItem* item : game.controls()) {
-            QAccessibleInterface* seen = accessible(*item);
-            ASSERT_NE(seen, nullptr);
-            const QString name = seen->text(QAccessible::Name);
-            EXPECT_FALSE(name.isEmpty());
-            EXPECT_TRUE(QSet<int>({QAccessible::Button, QAccessible::RadioButton, QAccessible::CheckBox,
-                                   QAccessible::Link})
-                            .contains(seen->role()))
-                << qUtf8Printable(name) << " " << seen->role();
-            ASSERT_NE(seen->actionInterface(), nullptr) << qUtf8Printable(name);
-            EXPECT_FALSE(seen->actionInterface()->actionNames().isEmpty()) << qUtf8Printable(name);
-        }
-    }
-}
-
-TEST_F(ControlsTest, AssistiveTechnologyPressesButtonsChoicesAndSwitches) {
-    const auto press = [this](const char* text, const QString& action) {
-        accessible(control(QString::fromUtf8(text)))->actionInterface()->doAction(action);
-        game.settle();
-    };
-    press("Deutsch", QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(view.settings()->selectedLanguage(), AppLanguage::de);
-    press("English", QAccessibleActionInterface::pressAction());
-    press("I'm a real-life athlete", QAccessibleActionInterface::toggleAction());
-    EXPECT_TRUE(view.career().isRealAthlete());
-    press("Start Game", QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(view.openMenu().menuScreen(), MenuScreen::country);
-    press("Japan", QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(view.settings()->selectedCountry(), Country::japan);
-}
-
-TEST_F(ControlsTest, TheAboutScreenHasALinkToTheGamesPagesInThePlayersLanguage) {
-    game.open(MenuScreen::about);
-    EXPECT_EQ(accessible(control(QStringLiteral("The game's pages")))->role(), QAccessible::Link);
-    for (const AppLanguage language : allLanguages) {
-        game.setLanguage(language);
-        const QFileInfo page(view.menu()->pages().toLocalFile());
-        EXPECT_TRUE(page.isFile()) << rawValue(language);
-        EXPECT_EQ(page.baseName().toStdString(), rawValue(language));
-    }
-}
-
-TEST_F(ControlsTest, OfALongDiaryOnlyTheRowsThatAreSeenAreMadeAndItScrollsToItsEnd) {
-    std::string json = "[";
-    for (int i = 0; i < 100'000; ++i) {
-        json += (i == 0 ? "" : ",") + std::string(R"({"id":"0F2B6C1E-9D3A-4E57-8C4B-1A2B3C4D5E6F","date":)") +
-                std::to_string(700'000'000 - i * 3600) + R"(.25,"resultKey":"diary.win","xpGained":1})";
-    }
-    game.defaults().setBytes("boccia_diaryData", json + "]");
-    view.menu()->openDiary();
-    game.layOut();
-    std::vector<QQuickItem*> rows;
-    collect(
-        game.menu(), [](QQuickItem& item) { return isOfType(item, "DiaryRow"); }, rows);
-    EXPECT_GT(rows.size(), 5U);
-    EXPECT_LT(rows.size(), 100U);
-    EXPECT_EQ(view.menu()->career()->diary()->rowCount(), 100'000);
-    game.press(Qt::Key_Tab); // from the button to the list
-    game.press(Qt::Key_End);
-    EXPECT_TRUE(isOfType(*game.focus(), "QQuickListView"))
-        << game.focus()->metaObject()->className() << qUtf8Printable(game.focusedText());
-    EXPECT_TRUE(game.focus()->property("atYEnd").toBool());
-    game.press(Qt::Key_Home);
-    EXPECT_TRUE(game.focus()->property("atYBeginning").toBool());
-}
-
-TEST(LogoTest, AMissingLogoLeavesNoHoleAndNoError) {
-    MenuWindow with{Resources({VORBEL_RESOURCES_FOLDER})};
-    MenuWindow without{Resources()};
-    const auto titleTop = [](MenuWindow& game) {
-        game.layOut();
-        std::vector<QQuickItem*> found;
-        collect(
-            game.menu(), [](QQuickItem& item) { return isOfType(item, "ScreenTitle"); }, found);
-        return inScene(*found.at(0)).top() - inScene(*game.controls().at(0)).top();
-    };
-    EXPECT_LT(std::abs(titleTop(with) - titleTop(without)), 1);
-    EXPECT_EQ(without.complaints(), QStringList());
-    std::vector<QQuickItem*> pictures;
-    collect(
-        without.menu(), [](QQuickItem& item) { return isOfType(item, "QQuickImage"); }, pictures);
-    EXPECT_TRUE(pictures.empty());
 }
 
 // The buttons of a closed screen are destroyed one pass of the event loop after the screen itself.

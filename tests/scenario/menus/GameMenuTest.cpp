@@ -10,7 +10,7 @@ namespace vorbel {
 
 class GameMenuTest : public testing::Test {
 protected:
-    MenuWindow game{Resources({VORBEL_RESOURCES_FOLDER})};
+    MenuWindow game;
     ContentView& view = game.view();
 
     GameMenuTest() { game.setLanguage(AppLanguage::en); }
@@ -46,7 +46,7 @@ protected:
         EXPECT_TRUE(showsRing(*before)) << qUtf8Printable(game.focusedText());
     }
 
-    void clickInTheMiddle() {
+    void clickOutside() {
         QTest::mouseClick(&game.window(), Qt::LeftButton, {}, QPoint(40, 700)); // where no control is
     }
 };
@@ -57,7 +57,7 @@ TEST_F(GameMenuTest, HoweverItIsClosedTheKeyboardIsWhereItWas) {
         expectTheFocusBackAfter([this] { game.press(Qt::Key_Escape); });
         expectTheFocusBackAfter([this] { game.press(Qt::Key_F10); });
         expectTheFocusBackAfter([this] { game.press(Qt::Key_Return); }); // the main menu, which is open
-        expectTheFocusBackAfter([this] { clickInTheMiddle(); });
+        expectTheFocusBackAfter([this] { clickOutside(); });
     }
     game.open(MenuScreen::rules);
     game.open(MenuScreen::main);

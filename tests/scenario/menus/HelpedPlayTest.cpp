@@ -12,8 +12,6 @@ namespace vorbel {
 
 namespace {
 
-const Resources resources({VORBEL_RESOURCES_FOLDER});
-
 // Tells what the test puts into it.
 class ScriptedControllers final : public Controllers {
 public:
@@ -31,7 +29,7 @@ public:
 
 class HelpedPlayTest : public testing::Test {
 protected:
-    MenuWindow game{resources};
+    MenuWindow game;
     GameLogic& match = game.view().gameLogic();
 
     HelpedPlayTest() {

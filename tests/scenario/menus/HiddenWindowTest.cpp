@@ -7,7 +7,7 @@
 namespace vorbel {
 
 TEST(HiddenWindowTest, AMatchThatEndsInAHiddenWindowIsRecordedAtOnceAndItsResultIsThereLater) {
-    MenuWindow game{Resources({VORBEL_RESOURCES_FOLDER})};
+    MenuWindow game;
     game.open(MenuScreen::hidden);
     game.layOut();
     game.window().update();

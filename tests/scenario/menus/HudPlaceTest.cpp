@@ -1,8 +1,8 @@
 // The display leaves the arena to be seen: its strip ends above the flags, in every language.
 #include "tests/MatchSetup.h"
+#include "tests/scenario/menus/LayoutCheck.h"
 #include "tests/scenario/menus/MenuWindow.h"
 
-#include "l10n/L10n.h"
 #include "platform/render/Extent.h"
 
 #include <gtest/gtest.h>
@@ -16,18 +16,11 @@ namespace {
 constexpr double flagHalfWidth = 0.23; // metres
 constexpr double flagHalfHeight = 0.16;
 
-Country longestNamed(AppLanguage language) {
-    return *std::ranges::max_element(allCountries, {},
-                                     [&](Country country) { return L10n::t(key(country), language).size(); });
-}
-
-const Resources resources({VORBEL_RESOURCES_FOLDER});
-
 } // namespace
 
 class HudPlaceTest : public testing::TestWithParam<AppLanguage> {
 protected:
-    MenuWindow game{resources};
+    MenuWindow game;
     MatchState& match = MatchSetup(game.view().gameLogic()).state();
 
     HudPlaceTest() {

@@ -1,6 +1,5 @@
 // The display over the arena in every language: no text is cut off, overlaps another or leaves the window.
 #include "engine/Messages.h"
-#include "l10n/L10n.h"
 #include "tests/MatchSetup.h"
 #include "tests/scenario/menus/LayoutCheck.h"
 #include "tests/scenario/menus/MenuWindow.h"
@@ -13,11 +12,6 @@
 namespace vorbel {
 
 namespace {
-
-Country longestNamed(AppLanguage language) {
-    return *std::ranges::max_element(allCountries, {},
-                                     [&](Country country) { return L10n::t(key(country), language).size(); });
-}
 
 // Every sentence that the message line can show in the language, the longest first.
 std::vector<std::string> messagesIn(AppLanguage language) {
@@ -40,13 +34,11 @@ std::vector<std::string> messagesIn(AppLanguage language) {
     return all;
 }
 
-const Resources resources({VORBEL_RESOURCES_FOLDER});
-
 } // namespace
 
 class HudTest : public testing::TestWithParam<AppLanguage> {
 protected:
-    MenuWindow game{resources};
+    MenuWindow game;
     GameLogic& match = game.view().gameLogic();
     MatchState& state = MatchSetup(match).state();
 

@@ -1,9 +1,11 @@
 #include "tests/scenario/menus/LayoutCheck.h"
 
+#include "l10n/L10n.h"
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include <QQuickWindow>
 
+#include <algorithm>
 #include <vector>
 
 namespace vorbel {
@@ -111,6 +113,11 @@ QStringList unreadableTexts(QQuickItem& root) {
         }
     }
     return complaints;
+}
+
+Country longestNamed(AppLanguage language) {
+    return *std::ranges::max_element(allCountries, {},
+                                     [&](Country country) { return L10n::t(key(country), language).size(); });
 }
 
 } // namespace vorbel

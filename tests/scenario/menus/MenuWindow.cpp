@@ -15,6 +15,10 @@ Platform withResources(HeadlessPlatform& platform, const Resources& resources) {
 
 } // namespace
 
+Resources gameResources() {
+    return Resources({VORBEL_RESOURCES_FOLDER});
+}
+
 bool isOfType(const QQuickItem& item, const char* className) {
     for (const QMetaObject* type = item.metaObject(); type != nullptr; type = type->superClass()) {
         const QByteArrayView name(type->className());
@@ -128,6 +132,15 @@ std::vector<QQuickItem*> MenuWindow::controls() const {
         },
         found);
     return found;
+}
+
+QQuickItem& MenuWindow::control(const QString& text) const {
+    for (QQuickItem* item : controls()) {
+        if (item->property("text").toString() == text) {
+            return *item;
+        }
+    }
+    throw std::runtime_error("no control " + text.toStdString());
 }
 
 } // namespace vorbel

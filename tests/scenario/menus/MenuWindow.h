@@ -17,9 +17,15 @@
 
 namespace vorbel {
 
+inline constexpr MenuScreen allScreens[] = {
+    MenuScreen::main,  MenuScreen::country, MenuScreen::bcClass, MenuScreen::rules,      MenuScreen::about,
+    MenuScreen::diary, MenuScreen::options, MenuScreen::leave,   MenuScreen::matchResult};
+
+[[nodiscard]] Resources gameResources(); // those of the tree
+
 class MenuWindow {
 public:
-    explicit MenuWindow(const Resources& resources);
+    explicit MenuWindow(const Resources& resources = gameResources());
 
     [[nodiscard]] ContentView& view() { return view_; }
     [[nodiscard]] MemoryDefaults& defaults() { return defaults_; }
@@ -41,6 +47,8 @@ public:
     [[nodiscard]] QQuickItem* focus() const;                 // the control that has the keyboard
     [[nodiscard]] QString focusedText() const;               // of that control
     [[nodiscard]] std::vector<QQuickItem*> controls() const; // buttons, switches and links of the open screen
+    [[nodiscard]] QQuickItem&
+    control(const QString& text) const; // the first of them with that text; one must be there
 
 private:
     HeadlessPlatform platform_{1};

@@ -10,7 +10,7 @@ namespace vorbel {
 
 class ResultTest : public testing::Test {
 protected:
-    MenuWindow game{Resources({VORBEL_RESOURCES_FOLDER})};
+    MenuWindow game;
 
     void endMatch() {
         game.open(MenuScreen::hidden);

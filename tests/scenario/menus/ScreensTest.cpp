@@ -51,13 +51,11 @@ void fill(MenuWindow& game) {
     match.blueScore = 4;
 }
 
-const Resources resources({VORBEL_RESOURCES_FOLDER});
-
 } // namespace
 
 class ScreensTest : public testing::TestWithParam<AppLanguage> {
 protected:
-    MenuWindow game{resources};
+    MenuWindow game;
 
     ScreensTest() {
         fill(game);

@@ -12,7 +12,7 @@ namespace vorbel {
 
 class SpokenTest : public testing::Test {
 protected:
-    MenuWindow game{Resources({VORBEL_RESOURCES_FOLDER})};
+    MenuWindow game;
 
     SpokenTest() { game.setLanguage(AppLanguage::en); }
 

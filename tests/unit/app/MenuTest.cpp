@@ -37,6 +37,8 @@ TEST_F(MenuTest, EveryScreenHasItsPlaceInTheListOfScreens) {
                                         {MenuScreen::rules, MenuModel::Screen::Rules},
                                         {MenuScreen::about, MenuModel::Screen::About},
                                         {MenuScreen::diary, MenuModel::Screen::Diary},
+                                        {MenuScreen::options, MenuModel::Screen::Options},
+                                        {MenuScreen::leave, MenuModel::Screen::Leave},
                                         {MenuScreen::matchResult, MenuModel::Screen::MatchResult},
                                         {MenuScreen::hidden, MenuModel::Screen::Hidden}}) {
         openMenu.setMenuScreen(screen);
@@ -186,39 +188,6 @@ TEST_F(MenuTest, ChoicesLastUntilTheProgramEnds) {
 
 TEST_F(MenuTest, WithoutALogoThereIsNoPictureToLoad) {
     EXPECT_TRUE(menu.logo().isEmpty());
-}
-
-TEST_F(MenuTest, PlacesOutsideAListAreIgnored) {
-    for (const int nowhere : {-1, 37, 1000}) {
-        menu.choices()->setLanguageIndex(nowhere);
-        menu.choices()->setCountryIndex(nowhere);
-        menu.choices()->setClassIndex(nowhere);
-    }
-    EXPECT_EQ(settings.selectedLanguage(), AppLanguage::ru);
-    EXPECT_EQ(settings.selectedCountry(), Country::france);
-    EXPECT_EQ(settings.selectedClass(), BocciaClass::bc4);
-}
-
-TEST_F(MenuTest, TheListsHoldAllLanguagesCountriesAndClassesInTheirOrder) {
-    const MenuChoices& choices = *menu.choices();
-    speak(AppLanguage::en);
-    EXPECT_EQ(choices.languages().size(), 20);
-    EXPECT_EQ(choices.languages().first(), QStringLiteral("Русский"));
-    EXPECT_EQ(choices.languages().last(), QStringLiteral("Ελληνικά"));
-    EXPECT_EQ(choices.countries().size(), 37);
-    EXPECT_EQ(choices.countries().first(), QStringLiteral("Belgium"));
-    EXPECT_EQ(choices.countries().last(), QStringLiteral("Russia"));
-    EXPECT_EQ(choices.flags().first(), QStringLiteral("🇧🇪"));
-    EXPECT_EQ(choices.sportClasses(), QStringList({QStringLiteral("BC1"), QStringLiteral("BC2"),
-                                                   QStringLiteral("BC3"), QStringLiteral("BC4")}));
-}
-
-TEST_F(MenuTest, TheClassIsDescribedInThePlayersLanguage) {
-    menu.choices()->setClassIndex(1);
-    menu.choices()->setLanguageIndex(static_cast<int>(AppLanguage::de));
-    EXPECT_EQ(menu.choices()->classDescription(), text("bc.desc.bc2", AppLanguage::de));
-    menu.choices()->setClassIndex(2);
-    EXPECT_EQ(menu.choices()->classDescription(), text("bc.desc.bc3", AppLanguage::de));
 }
 
 TEST_F(MenuTest, AllTextsFollowTheLanguageAtOnce) {
