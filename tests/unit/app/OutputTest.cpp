@@ -1,17 +1,15 @@
 // What the program writes, and what it does when there is no room for it.
 #include "app/command_line/Output.h"
+#include "tests/FullDisk.h"
 
 #include <gtest/gtest.h>
 
 #include <QImage>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <memory>
-
-#include <sys/resource.h>
 
 namespace vorbel {
 
@@ -38,26 +36,6 @@ protected:
     QImage picture{64, 64, QImage::Format_RGB32};
 };
 
-// No file can grow at all, as on a full disk, while it lives.
-class FullDisk {
-public:
-    FullDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN)) { // writes fail instead
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{0, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-private:
-    rlimit before_{};
-    void (*handler_)(int);
-};
-
 } // namespace
 
 TEST_F(OutputTest, ATextIsWrittenToItsLastByte) {
@@ -79,7 +57,7 @@ TEST_F(OutputTest, APictureIsAFileOfItsOwn) {
 }
 
 TEST_F(OutputTest, OnAFullDiskNoEmptyPictureIsLeft) {
-    const FullDisk full;
+    const FullDisk full(0);
     EXPECT_FALSE(isWritten(picture, folder / "arena.png"));
     EXPECT_EQ(files(), std::vector<std::string>());
 }
@@ -87,7 +65,7 @@ TEST_F(OutputTest, OnAFullDiskNoEmptyPictureIsLeft) {
 TEST_F(OutputTest, OnAFullDiskTheOldPictureStays) {
     EXPECT_TRUE(isWritten(picture, folder / "arena.png"));
     const auto size = fs::file_size(folder / "arena.png");
-    const FullDisk full;
+    const FullDisk full(0);
     EXPECT_FALSE(isWritten(picture, folder / "arena.png"));
     EXPECT_EQ(fs::file_size(folder / "arena.png"), size);
 }

@@ -2,25 +2,19 @@
 #include "platform/render/TrackedBalls.h"
 
 #include "platform/render/BallPlan.h"
+#include "tests/unit/render/TrackedScene.h"
 
 #include <algorithm>
 
-#include <glm/gtc/matrix_transform.hpp>
 #include <gmock/gmock.h>
 
 namespace vorbel {
 namespace {
 
-constexpr int width = 600;
-constexpr int height = 400;
-
-class TrackedBallsTest : public testing::Test {
+class TrackedBallsTest : public TrackedScene {
 protected:
     TrackedBallsTest() {
-        frame.camera.world = glm::translate(glm::mat4(1), {0, 1, 0});
-        frame.spot = SpotLight{.position = {0, 12, -6}, .castsShadow = true, .shadowMapSize = 1024};
-        frame.items = {{nodes.data(), Floor{0.05}, {}, glm::mat4(1), 1},
-                       {&nodes[1], Box{1, 1, 1}, {}, glm::translate(glm::mat4(1), {3, 0.5F, -12}), 1}};
+        frame.items.push_back({&nodes[1], Box{1, 1, 1}, {}, glm::translate(glm::mat4(1), {3, 0.5F, -12}), 1});
         frame.balls = {ballAt(2, {0, 0.1F, -4}), ballAt(3, {1, 0.1F, -8})};
         follow();
     }
@@ -38,8 +32,6 @@ protected:
                                    [&](const PixelRect& region) { return region.contains(rect); });
     }
 
-    std::array<char, 6> nodes{}; // stand for nodes: only their addresses count
-    Frame frame;
     TrackedFrame rest{8192};
     TrackedBalls balls;
 };

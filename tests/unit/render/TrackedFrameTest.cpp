@@ -1,25 +1,18 @@
 // What a new frame changes in the picture of the last one.
 #include "platform/render/TrackedFrame.h"
 
-#include <glm/gtc/matrix_transform.hpp>
+#include "tests/unit/render/TrackedScene.h"
+
 #include <gmock/gmock.h>
 
 namespace vorbel {
 namespace {
 
-constexpr int width = 600;
-constexpr int height = 400;
-
-class TrackedFrameTest : public testing::Test {
+class TrackedFrameTest : public TrackedScene {
 protected:
     TrackedFrameTest() {
-        frame.camera.world = glm::translate(glm::mat4(1), {0, 1, 0});
-        frame.spot = SpotLight{.position = {0, 12, -6}, .castsShadow = true, .shadowMapSize = 1024};
-        frame.items = {{nodes.data(), Floor{0.05}, {}, glm::mat4(1), 1},
-                       ballAt(1, -4),
-                       ballAt(2, -8),
-                       postAt(4, {-1.5F, 0.05F, -2}),
-                       postAt(5, {3, 0.05F, -12})};
+        frame.items.insert(frame.items.end(), {ballAt(1, -4), ballAt(2, -8), postAt(4, {-1.5F, 0.05F, -2}),
+                                               postAt(5, {3, 0.05F, -12})});
         follow();
     }
 
@@ -42,8 +35,6 @@ protected:
         return damage;
     }
 
-    std::array<char, 6> nodes{}; // stand for nodes: only their addresses count
-    Frame frame;
     TrackedFrame tracked{8192};
 };
 

@@ -1,4 +1,5 @@
 // Settings when things go wrong: nothing that was stored is lost, and the game goes on.
+#include "tests/FullDisk.h"
 #include "tests/unit/store/SettingsFolder.h"
 
 #include <atomic>
@@ -9,7 +10,6 @@
 #include <thread>
 
 #include <sys/mman.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 
 namespace vorbel {
@@ -20,27 +20,7 @@ namespace fs = std::filesystem;
 
 using SettingsFailureTest = SettingsFolder;
 
-// No file can grow beyond this, as on a full disk, while it lives.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) { // writes fail instead
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-private:
-    rlimit before_{};
-    void (*handler_)(int);
-};
-
-TEST_F(SettingsFailureTest, aDamagedFileCostsNoOtherValueAndIsSetAside) {
+TEST_F(SettingsFailureTest, ADamagedFileCostsNoOtherValueAndIsSetAside) {
     SettingsDefaults defaults(folder);
     defaults.setInteger("boccia_gamesPlayed", 5);
     for (const char* damaged :
@@ -56,7 +36,7 @@ TEST_F(SettingsFailureTest, aDamagedFileCostsNoOtherValueAndIsSetAside) {
     }
 }
 
-TEST_F(SettingsFailureTest, withAFolderThatCannotBeWrittenTheGameGoesOnInMemory) {
+TEST_F(SettingsFailureTest, WithAFolderThatCannotBeWrittenTheGameGoesOnInMemory) {
     write(folder, "a file where the folder should be"); // permissions would not stop an administrator
     SettingsDefaults defaults(folder / "vorbel");
     defaults.setInteger("boccia_gamesPlayed", 1);
@@ -66,7 +46,7 @@ TEST_F(SettingsFailureTest, withAFolderThatCannotBeWrittenTheGameGoesOnInMemory)
     EXPECT_EQ(contentOf(folder), "a file where the folder should be");
 }
 
-TEST_F(SettingsFailureTest, whatCouldNotBeWrittenIsWrittenWithTheNextValue) {
+TEST_F(SettingsFailureTest, WhatCouldNotBeWrittenIsWrittenWithTheNextValue) {
     write(folder, "in the way");
     SettingsDefaults defaults(folder / "vorbel");
     defaults.setInteger("boccia_gamesPlayed", 1);
@@ -75,7 +55,7 @@ TEST_F(SettingsFailureTest, whatCouldNotBeWrittenIsWrittenWithTheNextValue) {
     EXPECT_EQ(SettingsDefaults(folder / "vorbel").integer("boccia_gamesPlayed"), 1);
 }
 
-TEST_F(SettingsFailureTest, whatCouldNotBeWrittenIsWrittenAtTheEnd) {
+TEST_F(SettingsFailureTest, WhatCouldNotBeWrittenIsWrittenAtTheEnd) {
     write(folder, "in the way");
     {
         SettingsDefaults defaults(folder / "vorbel");
@@ -85,7 +65,7 @@ TEST_F(SettingsFailureTest, whatCouldNotBeWrittenIsWrittenAtTheEnd) {
     EXPECT_EQ(SettingsDefaults(folder / "vorbel").integer("boccia_gamesPlayed"), 1);
 }
 
-TEST_F(SettingsFailureTest, onAFullDiskTheOldValueStaysAndTheNewOneIsKeptForTheSession) {
+TEST_F(SettingsFailureTest, OnAFullDiskTheOldValueStaysAndTheNewOneIsKeptForTheSession) {
     const std::string shortDiary(1000, 'a');
     const std::string longDiary(100'000, 'b');
     SettingsDefaults defaults(folder);
@@ -100,7 +80,7 @@ TEST_F(SettingsFailureTest, onAFullDiskTheOldValueStaysAndTheNewOneIsKeptForTheS
     EXPECT_EQ(SettingsDefaults(folder).bytes("boccia_diaryData"), longDiary) << "there is space again";
 }
 
-TEST_F(SettingsFailureTest, onACompletelyFullDiskEvenASmallOldValueStays) {
+TEST_F(SettingsFailureTest, OnACompletelyFullDiskEvenASmallOldValueStays) {
     SettingsDefaults defaults(folder);
     defaults.setInteger("boccia_gamesPlayed", 59);
     const FullDisk full(0);
@@ -109,7 +89,7 @@ TEST_F(SettingsFailureTest, onACompletelyFullDiskEvenASmallOldValueStays) {
     EXPECT_EQ(SettingsDefaults(folder).integer("boccia_gamesPlayed"), 59);
 }
 
-TEST_F(SettingsFailureTest, aLockWhoseMakerWasKilledBeforeHeSignedItIsClearedAway) {
+TEST_F(SettingsFailureTest, ALockWhoseMakerWasKilledBeforeHeSignedItIsClearedAway) {
     fs::create_directories(folder);
     write(folder / ".lock", "");
     fs::last_write_time(folder / ".lock", fs::file_time_type::clock::now() - std::chrono::seconds(5));
@@ -146,7 +126,7 @@ public:
     }
 }
 
-TEST_F(SettingsFailureTest, aGameKilledAtAnyMomentLeavesWholeValuesAndLosesNone) {
+TEST_F(SettingsFailureTest, AGameKilledAtAnyMomentLeavesWholeValuesAndLosesNone) {
     SettingsDefaults defaults(folder);
     defaults.setInteger("counter", 0);
     defaults.setText("text", "");
