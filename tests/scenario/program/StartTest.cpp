@@ -39,6 +39,17 @@ TEST(StartTest, HelpAndVersionAnswerWithoutADisplay) {
     }
 }
 
+TEST(StartTest, WhatCannotBeWrittenIsSaidAndStatus1) {
+    for (const char* option : {"--help", "--version", "--diagnose"}) {
+        QProcess program;
+        program.setStandardOutputFile(QStringLiteral("/dev/full"));
+        program.start(QStringLiteral(VORBEL_PROGRAM), {QString::fromLatin1(option)});
+        ASSERT_TRUE(program.waitForFinished(patience)) << option;
+        EXPECT_EQ(program.exitCode(), 1) << option;
+        EXPECT_TRUE(program.readAllStandardError().endsWith("vorbel: cannot write the output\n")) << option;
+    }
+}
+
 TEST(StartTest, AnUnknownOptionIsOneClearLineAndStatus2) {
     Program program({QStringLiteral("--bogus")});
     EXPECT_EQ(program.status(), 2);
