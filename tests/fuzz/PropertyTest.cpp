@@ -45,7 +45,7 @@ struct AnyPosition {
 
 } // namespace
 
-RC_GTEST_PROP(Properties, AnySequenceOfActionsKeepsTheRules, ()) {
+RC_GTEST_PROP(PropertyTest, AnySequenceOfActionsKeepsTheRules, ()) {
     RandomPlayer player(*rc::gen::arbitrary<std::uint64_t>());
     const auto actions = *rc::gen::container<std::vector<std::pair<std::size_t, double>>>(
         rc::gen::pair(rc::gen::inRange<std::size_t>(0, actionCount), between(0, 4)));
@@ -56,7 +56,7 @@ RC_GTEST_PROP(Properties, AnySequenceOfActionsKeepsTheRules, ()) {
     }
 }
 
-RC_GTEST_PROP(Properties, AnEndIsWorthPointsForTheSideOfTheClosestBallOnly, ()) {
+RC_GTEST_PROP(PropertyTest, AnEndIsWorthPointsForTheSideOfTheClosestBallOnly, ()) {
     AnyPosition position;
     position.setup.state().phase = GamePhase::endOver;
     position.game.calculateScore();
@@ -69,7 +69,7 @@ RC_GTEST_PROP(Properties, AnEndIsWorthPointsForTheSideOfTheClosestBallOnly, ()) 
     RC_ASSERT(equidistant || redIsCloser == (result.red > 0));
 }
 
-RC_GTEST_PROP(Properties, TheComputerAlwaysAimsWithinItsLimits, ()) {
+RC_GTEST_PROP(PropertyTest, TheComputerAlwaysAimsWithinItsLimits, ()) {
     AnyPosition position;
     GameLogic& game = position.game;
     game.aiDifficulty = allDifficulties[*rc::gen::inRange<std::size_t>(0, allDifficulties.size())];

@@ -28,9 +28,9 @@ Action randomAction(SeededRandom& dice) {
 
 } // namespace
 
-class Soak : public testing::TestWithParam<std::uint64_t> {};
+class SoakTest : public testing::TestWithParam<std::uint64_t> {};
 
-TEST_P(Soak, RandomKeysNeverBreakARuleOrGetStuck) {
+TEST_P(SoakTest, RandomKeysNeverBreakARuleOrGetStuck) {
     constexpr double minute = 60;
     SeededRandom dice(GetParam());
     RandomPlayer player(GetParam());
@@ -48,6 +48,6 @@ TEST_P(Soak, RandomKeysNeverBreakARuleOrGetStuck) {
     EXPECT_EQ(player.phasesSeen().size(), 4U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, Soak, testing::Values(1, 2)); // two, to keep two cores busy
+INSTANTIATE_TEST_SUITE_P(Seeds, SoakTest, testing::Values(1, 2)); // two, to keep two cores busy
 
 } // namespace vorbel::test

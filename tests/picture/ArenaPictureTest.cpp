@@ -87,11 +87,11 @@ Scene makeArena() {
     return GameLogic::create3DScene(random);
 }
 
-TEST(ArenaPicture, EmptyCourt) {
+TEST(ArenaPictureTest, EmptyCourt) {
     expectLooksLike(drawArena(makeArena()), "empty-court");
 }
 
-TEST(ArenaPicture, MiddleOfAnEnd) {
+TEST(ArenaPictureTest, MiddleOfAnEnd) {
     struct Placed {
         BallColor color;
         double x;
@@ -130,7 +130,7 @@ double luminance(QRgb pixel) {
     return static_cast<double>(glm::dot(light, glm::vec3(0.2126F, 0.7152F, 0.0722F)));
 }
 
-TEST(ArenaPicture, FarBallsStandOutFromTheCourt) {
+TEST(ArenaPictureTest, FarBallsStandOutFromTheCourt) {
     struct Shot {
         BallColor color;
         int height;
@@ -162,7 +162,7 @@ TEST(ArenaPicture, FarBallsStandOutFromTheCourt) {
 }
 
 // On the court: 12 m below the light.
-TEST(ArenaPicture, TexelOfTheShadowMapIsFourMillimetresAtMost) {
+TEST(ArenaPictureTest, TexelOfTheShadowMapIsFourMillimetresAtMost) {
     TrackedFrame tracked(4096);
     tracked.follow(makeFrame(makeArena(), 1), 1200, 800);
     const glm::vec2 texel = 12.0F * 2.0F * tracked.frustum().halfWidth / 4096.0F;
@@ -182,7 +182,7 @@ Scene makeArenaSeenFrom(const Vec3& place, double yaw, double pitch) {
     return scene;
 }
 
-TEST(ArenaPicture, AllFlagDesignsFromNearby) {
+TEST(ArenaPictureTest, AllFlagDesignsFromNearby) {
     const std::array<std::pair<const char*, double>, 3> parts = {
         {{"flags-left", -3.0}, {"flags-middle", 0.0}, {"flags-right", 3.0}}};
     for (const auto& [name, x] : parts) {
@@ -190,11 +190,11 @@ TEST(ArenaPicture, AllFlagDesignsFromNearby) {
     }
 }
 
-TEST(ArenaPicture, Referee) {
+TEST(ArenaPictureTest, Referee) {
     expectLooksLike(drawArena(makeArenaSeenFrom({-2.2, 0.9, -5.6}, 1.1, -0.15)), "referee");
 }
 
-TEST(ArenaPicture, StandWithItsSpectators) {
+TEST(ArenaPictureTest, StandWithItsSpectators) {
     const Scene scene = makeArenaSeenFrom({1.5, 1.5, -6.25}, -1.57, 0);
     expectLooksLike(drawArena(scene, Resources({VORBEL_PICTURES})), "stand");
 }

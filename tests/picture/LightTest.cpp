@@ -177,7 +177,7 @@ TEST_F(LightTest, EmissionGlowsWhereNoLightIs) {
                 colorStep);
 }
 
-TEST(Renderer, WithoutAContextSaysSo) {
+TEST(RendererTest, WithoutAContextSaysSo) {
     std::string error;
     const Resources resources;
     Pictures pictures(resources);

@@ -95,7 +95,7 @@ protected:
 };
 
 // The language comes just before the window manager gives the window its first size.
-TEST(ShellStart, InAStoredLanguageTheFirstResizeFindsAllControlsInPlace) {
+TEST(ShellStartTest, InAStoredLanguageTheFirstResizeFindsAllControlsInPlace) {
     const QTemporaryDir settings;
     SettingsDefaults(settings.filePath(QStringLiteral("vorbel")).toStdString())
         .setText("boccia_language", "el");

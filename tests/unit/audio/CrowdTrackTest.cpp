@@ -24,7 +24,7 @@ protected:
     }
 };
 
-TEST_F(CrowdTrackTest, theCrowdIsHeardAtTheVolumeSet) {
+TEST_F(CrowdTrackTest, TheCrowdIsHeardAtTheVolumeSet) {
     constexpr std::size_t frames = 5 * sampleRate;
     const std::vector<float> asRecorded = recordedCrowd(frames + 4096, -1, 1.0F);
     const std::vector<float> asPlayed = recordedCrowd(frames + 4096, -1, 0.4F);
@@ -34,7 +34,7 @@ TEST_F(CrowdTrackTest, theCrowdIsHeardAtTheVolumeSet) {
     EXPECT_NEAR(20.0 * std::log10(quiet), -30.0, 2.0) << "dB of full scale: a background, clearly there";
 }
 
-TEST_F(CrowdTrackTest, theCrowdLoopsForEverWithoutAGap) {
+TEST_F(CrowdTrackTest, TheCrowdLoopsForEverWithoutAGap) {
     const std::vector<float> played = recordedCrowd(2 * loopLength + 2 * sampleRate);
     ASSERT_GT(played.size(), 2 * loopLength + sampleRate);
     for (std::size_t i = 0; i < loopLength; ++i) {
@@ -42,7 +42,7 @@ TEST_F(CrowdTrackTest, theCrowdLoopsForEverWithoutAGap) {
     }
 }
 
-TEST_F(CrowdTrackTest, theSeamOfTheCrowdIsNoLouderNorRougherThanTheRest) {
+TEST_F(CrowdTrackTest, TheSeamOfTheCrowdIsNoLouderNorRougherThanTheRest) {
     const std::vector<float> played = recordedCrowd(loopLength + 2 * sampleRate);
     ASSERT_GT(played.size(), loopLength + sampleRate);
     std::vector<float> bends(played.size());
@@ -57,14 +57,14 @@ TEST_F(CrowdTrackTest, theSeamOfTheCrowdIsNoLouderNorRougherThanTheRest) {
     EXPECT_NEAR(loudness / rootMeanSquare(played), 1.0, 0.5) << "neither a gap nor a bump";
 }
 
-TEST_F(CrowdTrackTest, aLoopCountOfZeroPlaysOnce) {
+TEST_F(CrowdTrackTest, ALoopCountOfZeroPlaysOnce) {
     const std::vector<float> played = recordedCrowd(loopLength + 2 * sampleRate, 0);
     ASSERT_GT(played.size(), loopLength + sampleRate);
     EXPECT_GT(rootMeanSquare(std::span(played).subspan(loopLength - sampleRate, sampleRate)), 0.01);
     EXPECT_EQ(rootMeanSquare(std::span(played).subspan(loopLength)), 0.0);
 }
 
-TEST_F(CrowdTrackTest, aMissingOrCorruptFileGivesNoPlayerAndPrintsNothing) {
+TEST_F(CrowdTrackTest, AMissingOrCorruptFileGivesNoPlayerAndPrintsNothing) {
     setenv("SDL_AUDIODRIVER", "dummy", 1);
     const std::string music = contentOf(soundFolder / "crowd.mp3");
     write(folder / "empty", "");
@@ -80,7 +80,7 @@ TEST_F(CrowdTrackTest, aMissingOrCorruptFileGivesNoPlayerAndPrintsNothing) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(CrowdTrackTest, aTrackThatBreaksOffLoopsUpToTheBreak) {
+TEST_F(CrowdTrackTest, ATrackThatBreaksOffLoopsUpToTheBreak) {
     recordToDisk(asFastAsPossible);
     write(folder / "broken.mp3",
           contentOf(soundFolder / "crowd.mp3").substr(0, 100000) + std::string(50000, 'x'));

@@ -7,7 +7,7 @@ namespace {
 
 using SdlAudioTest = RecordedSound;
 
-TEST_F(SdlAudioTest, findsTheThreeEffectsAndNoOther) {
+TEST_F(SdlAudioTest, FindsTheThreeEffectsAndNoOther) {
     setenv("SDL_AUDIODRIVER", "dummy", 1);
     SdlAudio audio(resources);
     EXPECT_NE(audio.systemSound("Pop"), nullptr);
@@ -16,7 +16,7 @@ TEST_F(SdlAudioTest, findsTheThreeEffectsAndNoOther) {
     EXPECT_EQ(audio.systemSound("Submarine"), nullptr);
 }
 
-TEST_F(SdlAudioTest, anEffectIsPlayedExactlyAsItIsInTheFile) {
+TEST_F(SdlAudioTest, AnEffectIsPlayedExactlyAsItIsInTheFile) {
     recordToDisk(inRealTime);
     const std::vector<float> pop = effect("Pop");
     {
@@ -30,7 +30,7 @@ TEST_F(SdlAudioTest, anEffectIsPlayedExactlyAsItIsInTheFile) {
     EXPECT_TRUE(std::ranges::equal(pop, std::span(played).first(pop.size())));
 }
 
-TEST_F(SdlAudioTest, stopThenPlayRestartsAnEffectFromItsBeginning) {
+TEST_F(SdlAudioTest, StopThenPlayRestartsAnEffectFromItsBeginning) {
     recordToDisk(inRealTime);
     const std::vector<float> glass = effect("Glass");
     {
@@ -50,7 +50,7 @@ TEST_F(SdlAudioTest, stopThenPlayRestartsAnEffectFromItsBeginning) {
     EXPECT_LE(again - cutAt, 1) << "and gave way at once";
 }
 
-TEST_F(SdlAudioTest, playIsIgnoredWhileTheEffectIsSounding) {
+TEST_F(SdlAudioTest, PlayIsIgnoredWhileTheEffectIsSounding) {
     recordToDisk(inRealTime);
     const std::vector<float> pop = effect("Pop");
     {
@@ -66,7 +66,7 @@ TEST_F(SdlAudioTest, playIsIgnoredWhileTheEffectIsSounding) {
     EXPECT_EQ(rootMeanSquare(std::span(played).subspan(pop.size())), 0.0);
 }
 
-TEST_F(SdlAudioTest, withoutASoundDeviceEverythingWorksAndNothingIsPrinted) {
+TEST_F(SdlAudioTest, WithoutASoundDeviceEverythingWorksAndNothingIsPrinted) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     for (const char* driver : {"alsa", "nonsense"}) {
@@ -84,7 +84,7 @@ TEST_F(SdlAudioTest, withoutASoundDeviceEverythingWorksAndNothingIsPrinted) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
 }
 
-TEST_F(SdlAudioTest, aCorruptEffectFileGivesNoSound) {
+TEST_F(SdlAudioTest, ACorruptEffectFileGivesNoSound) {
     setenv("SDL_AUDIODRIVER", "dummy", 1);
     write(folder / "Pop.wav", "this is no sound");
     const Resources corrupt({folder});
@@ -92,7 +92,7 @@ TEST_F(SdlAudioTest, aCorruptEffectFileGivesNoSound) {
     EXPECT_EQ(audio.systemSound("Pop"), nullptr);
 }
 
-TEST_F(SdlAudioTest, soundsAndPlayersMayOutliveTheAudio) {
+TEST_F(SdlAudioTest, SoundsAndPlayersMayOutliveTheAudio) {
     setenv("SDL_AUDIODRIVER", "dummy", 1);
     auto audio = std::make_unique<SdlAudio>(resources);
     const auto sound = audio->systemSound("Glass");

@@ -42,7 +42,7 @@ struct WeightlessBalls {
     std::vector<Node::Ptr> balls;
 };
 
-TEST(BallContact, HeadOnShareTheSpeed) {
+TEST(BallContactTest, HeadOnShareTheSpeed) {
     WeightlessBalls given;
     const auto striker = given.add({0, 0, 0}, {0, 0, -3});
     const auto target = given.add({0, 0, -0.5}, {0, 0, 0});
@@ -54,7 +54,7 @@ TEST(BallContact, HeadOnShareTheSpeed) {
 
 // Without friction the struck ball leaves along the line of centres at the moment of contact, with half of
 // the striker's speed along that line; the striker keeps the rest.
-TEST(BallContact, ObliqueFollowsTheLineOfCentres) {
+TEST(BallContactTest, ObliqueFollowsTheLineOfCentres) {
     for (const double speed : {0.5, 2.0, 6.0}) {
         for (const double offset : {0.02, 0.05, 0.08, 0.095}) {
             WeightlessBalls given;
@@ -72,7 +72,7 @@ TEST(BallContact, ObliqueFollowsTheLineOfCentres) {
     }
 }
 
-TEST(BallContact, KeepsMomentumAndGainsNoEnergy) {
+TEST(BallContactTest, KeepsMomentumAndGainsNoEnergy) {
     for (const double friction : {0.0, 0.8}) {
         for (const double offset : {0.0, 0.03, 0.07, 0.099}) {
             WeightlessBalls given;
@@ -91,7 +91,7 @@ TEST(BallContact, KeepsMomentumAndGainsNoEnergy) {
     }
 }
 
-TEST(BallContact, PassingByTouchesNothing) {
+TEST(BallContactTest, PassingByTouchesNothing) {
     WeightlessBalls given;
     const auto striker = given.add({2 * ballRadius + 1e-4, 0, 0}, {0, 0, -6});
     const auto target = given.add({0, 0, -0.5}, {0, 0, 0});
@@ -100,7 +100,7 @@ TEST(BallContact, PassingByTouchesNothing) {
     EXPECT_EQ(striker->body->velocity, Vec3(0, 0, -6));
 }
 
-TEST(BallContact, NoTunnellingAtSixMetresPerSecond) {
+TEST(BallContactTest, NoTunnellingAtSixMetresPerSecond) {
     for (int shift = 0; shift < 40; ++shift) { // every phase of the sub-step against the place of the contact
         PhysicsCourt court;
         const auto striker = court.launch({0, restHeight, -1 + 0.003 * shift}, {0, 0, -6});
@@ -113,7 +113,7 @@ TEST(BallContact, NoTunnellingAtSixMetresPerSecond) {
     }
 }
 
-TEST(BallContact, OnTheFloorMovesTheTargetForwards) {
+TEST(BallContactTest, OnTheFloorMovesTheTargetForwards) {
     PhysicsCourt court;
     const auto striker = court.launch({0, restHeight, -1}, {0, 0, -2});
     const auto target = court.addBall({0, restHeight, -2});
@@ -130,7 +130,7 @@ TEST(BallContact, OnTheFloorMovesTheTargetForwards) {
 }
 
 // With twenty times finer steps a struck ball ends at nearly the same place.
-TEST(BallContact, ResultHardlyDependsOnTheSubStep) {
+TEST(BallContactTest, ResultHardlyDependsOnTheSubStep) {
     for (const double offset : {0.0, 0.03, -0.06}) {
         const auto restOfTarget = [offset](int stepsPerTick) {
             PhysicsCourt court;
@@ -147,7 +147,7 @@ TEST(BallContact, ResultHardlyDependsOnTheSubStep) {
 
 // A ball that rolls against a held one climbs or stops; it
 // is never pushed through and the held one never moves.
-TEST(BallContact, KinematicBallIsNotPushed) {
+TEST(BallContactTest, KinematicBallIsNotPushed) {
     PhysicsCourt court;
     const auto held = court.addBall({0, restHeight, -2}, ballBody(PhysicsBody::Type::kinematic));
     const auto striker = court.launch({0, restHeight, -1}, {0, 0, -4});

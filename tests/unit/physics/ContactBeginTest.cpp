@@ -28,7 +28,7 @@ struct Contacts {
     int courtContacts = 0;
 };
 
-TEST(ContactBegin, ReadsTheSpeedBeforeTheImpact) {
+TEST(ContactBeginTest, ReadsTheSpeedBeforeTheImpact) {
     for (const double speed : {0.1, 0.2, 1.0, 5.0}) {
         Contacts given;
         given.court.launch({0, restHeight, -2}, {0, 0, -speed});
@@ -39,7 +39,7 @@ TEST(ContactBegin, ReadsTheSpeedBeforeTheImpact) {
     }
 }
 
-TEST(ContactBegin, OfAPairInContactIsNotRepeated) {
+TEST(ContactBeginTest, OfAPairInContactIsNotRepeated) {
     Contacts given;
     given.court.launch({0, restHeight, -1}, {0, 0, -2});
     given.court.addBall({0, restHeight, -2});
@@ -47,7 +47,7 @@ TEST(ContactBegin, OfAPairInContactIsNotRepeated) {
     EXPECT_EQ(given.impactSpeeds.size(), 1U);
 }
 
-TEST(ContactBegin, ComesAgainAfterTheBallsHaveParted) {
+TEST(ContactBeginTest, ComesAgainAfterTheBallsHaveParted) {
     Contacts given;
     const auto striker = given.court.launch({0, restHeight, -1}, {0, 0, -2});
     const auto target = given.court.addBall({0, restHeight, -2});
@@ -65,7 +65,7 @@ TEST(ContactBegin, ComesAgainAfterTheBallsHaveParted) {
     EXPECT_NEAR(given.impactSpeeds[1], std::exp(-dampingRate * 0.5), 0.15);
 }
 
-TEST(ContactBegin, OfRestingNeighboursIsNotRepeatedWhenBodiesComeAndGo) {
+TEST(ContactBeginTest, OfRestingNeighboursIsNotRepeatedWhenBodiesComeAndGo) {
     Contacts given;
     given.court.launch({0, restHeight, -1}, {0, 0, -1});
     given.court.addBall({0, restHeight, -1.2});
@@ -80,7 +80,7 @@ TEST(ContactBegin, OfRestingNeighboursIsNotRepeatedWhenBodiesComeAndGo) {
     EXPECT_EQ(given.impactSpeeds.size(), 1U);
 }
 
-TEST(ContactBegin, ToldForFloorAndWallOnceEach) {
+TEST(ContactBeginTest, ToldForFloorAndWallOnceEach) {
     Contacts given;
     PhysicsBody body = ballBody();
     body.friction = 0; // or it would climb the wall and come down on the floor again
@@ -92,7 +92,7 @@ TEST(ContactBegin, ToldForFloorAndWallOnceEach) {
     EXPECT_EQ(given.courtContacts, 2);
 }
 
-TEST(ContactBegin, NoneForBallsThatPassEachOther) {
+TEST(ContactBeginTest, NoneForBallsThatPassEachOther) {
     Contacts given;
     given.court.launch({0, restHeight, -1}, {0, 0, -5});
     given.court.addBall({2 * ballRadius + 0.0005, restHeight, -2});
@@ -100,7 +100,7 @@ TEST(ContactBegin, NoneForBallsThatPassEachOther) {
     EXPECT_TRUE(given.impactSpeeds.empty());
 }
 
-TEST(ContactBegin, WithoutADelegateNothingIsTold) {
+TEST(ContactBeginTest, WithoutADelegateNothingIsTold) {
     PhysicsCourt court;
     court.launch({0, restHeight, -1}, {0, 0, -2});
     const auto target = court.addBall({0, restHeight, -1.3});

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double wallFace = -12.45;
 
-TEST(BackWall, StopsBallsAtItsFace) {
+TEST(BackWallTest, StopsBallsAtItsFace) {
     for (const double speed : {0.5, 3.0, 6.0}) {
         for (int shift = 0; shift < 40; ++shift) {
             PhysicsCourt court;
@@ -23,7 +23,7 @@ TEST(BackWall, StopsBallsAtItsFace) {
     }
 }
 
-TEST(BackWall, ReturnsNoSpeedToABallThatDoesNotSpin) {
+TEST(BackWallTest, ReturnsNoSpeedToABallThatDoesNotSpin) {
     PhysicsCourt court;
     court.scene.gravity = Vec3(0);
     PhysicsBody body = ballBody();
@@ -34,7 +34,7 @@ TEST(BackWall, ReturnsNoSpeedToABallThatDoesNotSpin) {
     EXPECT_NEAR(ball->position().z, wallFace + ballRadius, 1e-6);
 }
 
-TEST(CourtFloor, StopsAFallWithoutABounce) {
+TEST(CourtFloorTest, StopsAFallWithoutABounce) {
     PhysicsCourt court;
     const auto ball = court.addBall({0, 1, -5});
     for (int ticks = 0; ticks < 100; ++ticks) {
@@ -45,7 +45,7 @@ TEST(CourtFloor, StopsAFallWithoutABounce) {
     EXPECT_NEAR(ball->position().y, restHeight, 1e-6);
 }
 
-TEST(CourtFloor, KeepsABallWhereItIsReleased) {
+TEST(CourtFloorTest, KeepsABallWhereItIsReleased) {
     PhysicsCourt court;
     const auto ball = court.addBall({0.3, restHeight, -6.25});
     court.run(200);
@@ -75,7 +75,7 @@ double rolledDistance(double floorCoefficient, double ballCoefficient) {
     return -ball->position().z;
 }
 
-TEST(RollingFriction, OfAContactIsTheProductOfBothBodies) {
+TEST(RollingFrictionTest, OfAContactIsTheProductOfBothBodies) {
     EXPECT_NEAR(rolledDistance(0, 0.05), 2, 1e-3); // none on either side, none at all
     EXPECT_NEAR(rolledDistance(0.05, 0), 2, 1e-3);
     EXPECT_NEAR(rolledDistance(0.1, 0.02), rolledDistance(0.02, 0.1), 1e-9);

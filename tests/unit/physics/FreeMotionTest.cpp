@@ -7,9 +7,9 @@ namespace vorbel {
 
 namespace {
 
-struct RollingBall : testing::TestWithParam<double> {};
+struct RollingBallTest : testing::TestWithParam<double> {};
 
-TEST_P(RollingBall, FollowsTheDampingLaw) {
+TEST_P(RollingBallTest, FollowsTheDampingLaw) {
     const double speed = GetParam();
     PhysicsCourt court;
     const auto ball = court.launch({0, restHeight, 0}, {0, 0, -speed});
@@ -24,11 +24,11 @@ TEST_P(RollingBall, FollowsTheDampingLaw) {
         ASSERT_NEAR(ball->body->angularVelocity.x, ball->body->velocity.z / ballRadius, 1e-6);
     }
 }
-INSTANTIATE_TEST_SUITE_P(Launches, RollingBall, testing::Values(0.5, 1.0, 2.5, 5.0));
+INSTANTIATE_TEST_SUITE_P(Launches, RollingBallTest, testing::Values(0.5, 1.0, 2.5, 5.0));
 
 // The law behind the power of a throw: 0.4·D + 0.25 is the
 // speed that rolls D metres until it is down to 0.25 m/s.
-TEST(RollingDistance, IsThatOfThePowerModel) {
+TEST(RollingDistanceTest, IsThatOfThePowerModel) {
     for (const double distance : {1.0, 4.0, 8.0, 11.0}) {
         PhysicsCourt court;
         const auto ball = court.launch({0, restHeight, 0}, {0, 0, -(dampingRate * distance + 0.25)});
@@ -40,7 +40,7 @@ TEST(RollingDistance, IsThatOfThePowerModel) {
     }
 }
 
-TEST(RollingBall, PassesTheSideLineAndRollsOn) {
+TEST(RollingBallTest, PassesTheSideLineAndRollsOn) {
     PhysicsCourt court;
     const auto ball = court.launch({2.5, restHeight, -6}, {2, 0, 0});
     court.run(150);
@@ -48,7 +48,7 @@ TEST(RollingBall, PassesTheSideLineAndRollsOn) {
     EXPECT_NEAR(ball->position().y, restHeight, 1e-9);
 }
 
-TEST(SlidingBall, GripsUntilItRolls) {
+TEST(SlidingBallTest, GripsUntilItRolls) {
     PhysicsCourt court;
     PhysicsBody body = ballBody();
     body.damping = body.angularDamping = 0;
@@ -59,7 +59,7 @@ TEST(SlidingBall, GripsUntilItRolls) {
     EXPECT_NEAR(ball->body->angularVelocity.x, ball->body->velocity.z / ballRadius, 1e-3);
 }
 
-TEST(FlyingBall, FollowsTheClosedFormWithDrag) {
+TEST(FlyingBallTest, FollowsTheClosedFormWithDrag) {
     PhysicsCourt court;
     const double pitch = std::numbers::pi / 3;
     const Vec3 launch = 5.0 * Vec3(0, std::sin(pitch), -std::cos(pitch));
@@ -77,7 +77,7 @@ TEST(FlyingBall, FollowsTheClosedFormWithDrag) {
     }
 }
 
-TEST(FlyingBall, LandsWithoutABounceAndRollsOn) {
+TEST(FlyingBallTest, LandsWithoutABounceAndRollsOn) {
     PhysicsCourt court;
     const auto ball = court.launch({0, restHeight, 0}, {0, 4.33, -2.5});
     court.run(35);

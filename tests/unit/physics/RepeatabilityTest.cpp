@@ -49,7 +49,7 @@ std::vector<Vec3> playEnd(PhysicsCourt& court, unsigned seed) {
     return positions;
 }
 
-TEST(Repeatability, TwoWorldsSideBySideAgreeExactly) {
+TEST(RepeatabilityTest, TwoWorldsSideBySideAgreeExactly) {
     PhysicsCourt first;
     // Memory in between moves the second world's objects to other addresses.
     const std::vector<std::unique_ptr<std::vector<double>>> clutter = [] {
@@ -63,7 +63,7 @@ TEST(Repeatability, TwoWorldsSideBySideAgreeExactly) {
     EXPECT_EQ(playEnd(first, 1), playEnd(second, 1));
 }
 
-TEST(Repeatability, AUsedAndClearedWorldIsLikeANewOne) {
+TEST(RepeatabilityTest, AUsedAndClearedWorldIsLikeANewOne) {
     PhysicsCourt used;
     playEnd(used, 1);
     playEnd(used, 2);
@@ -71,7 +71,7 @@ TEST(Repeatability, AUsedAndClearedWorldIsLikeANewOne) {
     EXPECT_EQ(playEnd(used, 3), playEnd(fresh, 3));
 }
 
-TEST(Repeatability, OtherThrowsEndElsewhere) {
+TEST(RepeatabilityTest, OtherThrowsEndElsewhere) {
     PhysicsCourt first;
     PhysicsCourt second;
     EXPECT_NE(playEnd(first, 1), playEnd(second, 2));

@@ -9,7 +9,7 @@ namespace vorbel {
 
 namespace {
 
-TEST(RestingBall, IsNotMovingAndHasNoVelocity) {
+TEST(RestingBallTest, IsNotMovingAndHasNoVelocity) {
     PhysicsCourt court;
     const auto ball = court.launch({0, restHeight, -3}, {0, 0, -1});
     court.run(10);
@@ -23,7 +23,7 @@ TEST(RestingBall, IsNotMovingAndHasNoVelocity) {
     EXPECT_LT(glm::distance(ball->position(), frozenAt), 1e-6);
 }
 
-TEST(RestingBall, StaysWhereItIsToTheLastBit) {
+TEST(RestingBallTest, StaysWhereItIsToTheLastBit) {
     PhysicsCourt court;
     const auto ball = court.addBall({0.3, restHeight, -3});
     court.run(5);
@@ -32,14 +32,14 @@ TEST(RestingBall, StaysWhereItIsToTheLastBit) {
     EXPECT_EQ(ball->pose(), resting);
 }
 
-TEST(RestingBall, SlowRollIsNeverTakenForRest) {
+TEST(RestingBallTest, SlowRollIsNeverTakenForRest) {
     PhysicsCourt court;
     const auto ball = court.launch({0, restHeight, -3}, {0, 0, -0.05});
     court.run(100);
     EXPECT_NEAR(ball->body->velocity.z, -0.05 * std::exp(-dampingRate * 2), 1e-6);
 }
 
-TEST(FrozenBall, FallsAgainFromTheAir) {
+TEST(FrozenBallTest, FallsAgainFromTheAir) {
     PhysicsCourt court;
     const auto ball = court.launch({0, 0.5, -3}, {0, 2, -2});
     court.run(10);
@@ -52,7 +52,7 @@ TEST(FrozenBall, FallsAgainFromTheAir) {
     EXPECT_NEAR(ball->position().y, restHeight, 1e-6);
 }
 
-TEST(ThrownBall, DoesNotHangAtTheTopOfItsArc) {
+TEST(ThrownBallTest, DoesNotHangAtTheTopOfItsArc) {
     PhysicsCourt court;
     PhysicsBody body = ballBody();
     body.damping = body.angularDamping = 0;
@@ -76,7 +76,7 @@ std::vector<Node::Ptr> addPile(PhysicsCourt& court) {
     return balls;
 }
 
-TEST(Pile, OfThirteenTouchingBallsStaysAtRest) {
+TEST(PileTest, OfThirteenTouchingBallsStaysAtRest) {
     PhysicsCourt court;
     const auto balls = addPile(court);
     ASSERT_EQ(balls.size(), 13U);
@@ -91,7 +91,7 @@ TEST(Pile, OfThirteenTouchingBallsStaysAtRest) {
     }
 }
 
-TEST(Pile, IsScatteredByAFastBallWithoutGainingEnergy) {
+TEST(PileTest, IsScatteredByAFastBallWithoutGainingEnergy) {
     PhysicsCourt court;
     auto balls = addPile(court);
     court.run(10);
@@ -115,7 +115,7 @@ TEST(Pile, IsScatteredByAFastBallWithoutGainingEnergy) {
 }
 
 // A jack put back on the cross may land inside a ball that lies there.
-TEST(Overlap, IsResolvedWithoutAKick) {
+TEST(OverlapTest, IsResolvedWithoutAKick) {
     PhysicsCourt court;
     const auto lower = court.addBall({0, restHeight, -6.25});
     court.run(5);

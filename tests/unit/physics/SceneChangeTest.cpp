@@ -7,7 +7,7 @@ namespace vorbel {
 
 namespace {
 
-TEST(SceneChange, KinematicBodySwappedForADynamicOneIsThrown) {
+TEST(SceneChangeTest, KinematicBodySwappedForADynamicOneIsThrown) {
     PhysicsCourt court;
     const auto ball = court.addBall({-1, restHeight, -0.5}, ballBody(PhysicsBody::Type::kinematic));
     court.run(50);
@@ -22,7 +22,7 @@ TEST(SceneChange, KinematicBodySwappedForADynamicOneIsThrown) {
     EXPECT_NEAR(ball->body->velocity.z, -2 * std::exp(-dampingRate * tick), 1e-9);
 }
 
-TEST(SceneChange, KinematicBodyFollowsItsNode) {
+TEST(SceneChangeTest, KinematicBodyFollowsItsNode) {
     PhysicsCourt court;
     const auto held = court.addBall({0, restHeight, -2}, ballBody(PhysicsBody::Type::kinematic));
     court.run(2);
@@ -33,7 +33,7 @@ TEST(SceneChange, KinematicBodyFollowsItsNode) {
     EXPECT_EQ(held->position(), Vec3(1, restHeight, -2));
 }
 
-TEST(SceneChange, MovementOfAKinematicNodeStaysShown) {
+TEST(SceneChangeTest, MovementOfAKinematicNodeStaysShown) {
     PhysicsCourt court;
     const auto held = court.addBall({0, restHeight, -2}, ballBody(PhysicsBody::Type::kinematic));
     court.run(2);
@@ -43,7 +43,7 @@ TEST(SceneChange, MovementOfAKinematicNodeStaysShown) {
     EXPECT_DOUBLE_EQ(held->displayedPose(0.5).position.x, 0.05);
 }
 
-TEST(SceneChange, RemovedNodeIsNoLongerInTheWay) {
+TEST(SceneChangeTest, RemovedNodeIsNoLongerInTheWay) {
     PhysicsCourt court;
     const auto obstacle = court.addBall({0, restHeight, -2});
     const auto ball = court.launch({0, restHeight, -1}, {0, 0, -2});
@@ -54,7 +54,7 @@ TEST(SceneChange, RemovedNodeIsNoLongerInTheWay) {
     EXPECT_EQ(obstacle->position(), Vec3(0, restHeight, -2));
 }
 
-TEST(SceneChange, BallFallsWhenItsSupportIsRemoved) {
+TEST(SceneChangeTest, BallFallsWhenItsSupportIsRemoved) {
     PhysicsCourt court;
     const auto table = court.add(Box{1, 0.1, 1}, {.restitution = 0}, {0, 0.5, -3});
     const auto ball = court.addBall({0, 0.6, -3});
@@ -65,7 +65,7 @@ TEST(SceneChange, BallFallsWhenItsSupportIsRemoved) {
     EXPECT_NEAR(ball->position().y, restHeight, 1e-6);
 }
 
-TEST(SceneChange, BallFallsWhenItsSupportIsMovedAway) {
+TEST(SceneChangeTest, BallFallsWhenItsSupportIsMovedAway) {
     PhysicsCourt court;
     const auto table = court.add(Box{1, 0.1, 1}, {.restitution = 0}, {0, 0.5, -3});
     const auto ball = court.addBall({0, 0.6, -3});
@@ -75,7 +75,7 @@ TEST(SceneChange, BallFallsWhenItsSupportIsMovedAway) {
     EXPECT_NEAR(ball->position().y, restHeight, 1e-6);
 }
 
-TEST(SceneChange, VelocityAndPoseSetByTheGameAreTakenOver) {
+TEST(SceneChangeTest, VelocityAndPoseSetByTheGameAreTakenOver) {
     PhysicsCourt court;
     const auto ball = court.addBall({0, restHeight, -3});
     court.run(50);
@@ -87,7 +87,7 @@ TEST(SceneChange, VelocityAndPoseSetByTheGameAreTakenOver) {
     EXPECT_DOUBLE_EQ(ball->position().z, -4);
 }
 
-TEST(SceneChange, BallLiftedByTheGameFalls) {
+TEST(SceneChangeTest, BallLiftedByTheGameFalls) {
     PhysicsCourt court;
     const auto ball = court.addBall({0, restHeight, -3});
     court.run(50);
@@ -96,7 +96,7 @@ TEST(SceneChange, BallLiftedByTheGameFalls) {
     EXPECT_LT(ball->position().y, 0.5);
 }
 
-TEST(SceneChange, GravityIsThatOfTheScene) {
+TEST(SceneChangeTest, GravityIsThatOfTheScene) {
     PhysicsCourt court;
     const auto ball = court.addBall({0, restHeight, -3});
     court.run(20);
@@ -105,7 +105,7 @@ TEST(SceneChange, GravityIsThatOfTheScene) {
     EXPECT_GT(ball->position().y, 0.3);
 }
 
-TEST(SceneChange, BodyGivenToANodeThatIsAlreadyInTheSceneIsFound) {
+TEST(SceneChangeTest, BodyGivenToANodeThatIsAlreadyInTheSceneIsFound) {
     PhysicsCourt court;
     auto node = std::make_shared<Node>(Geometry{Sphere{ballRadius}, {}});
     node->setPosition({0, 1, -3});
@@ -117,7 +117,7 @@ TEST(SceneChange, BodyGivenToANodeThatIsAlreadyInTheSceneIsFound) {
     EXPECT_LT(node->position().y, 1);
 }
 
-TEST(SceneChange, EmptySceneAndBodiesWithoutAShapeAreHarmless) {
+TEST(SceneChangeTest, EmptySceneAndBodiesWithoutAShapeAreHarmless) {
     Scene scene;
     PhysicsWorld world(scene);
     world.step(tick);

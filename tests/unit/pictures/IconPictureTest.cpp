@@ -15,7 +15,7 @@ TEST_P(IconPictureTest, ItHasTheSizeThatItIsNamedAfter) {
 
 INSTANTIATE_TEST_SUITE_P(All, IconPictureTest, testing::Values(16, 22, 24, 32, 48, 64, 96, 128, 256, 512));
 
-TEST(ScalableIcon, DoesWithoutWhatNotEveryDesktopDraws) {
+TEST(ScalableIconTest, DoesWithoutWhatNotEveryDesktopDraws) {
     QFile file(QStringLiteral(VORBEL_PICTURES "/pictures/Icon.svg"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray source = file.readAll();

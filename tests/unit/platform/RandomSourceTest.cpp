@@ -22,7 +22,7 @@ private:
 
 } // namespace
 
-TEST(RandomSource, BothBoundsCanBeDrawn) {
+TEST(RandomSourceTest, BothBoundsCanBeDrawn) {
     constexpr std::uint64_t steps = std::uint64_t{1} << 53U;
     FixedRandom lowest(0);
     FixedRandom highest(steps); // k = 2⁵³ of 2⁵³
@@ -30,12 +30,12 @@ TEST(RandomSource, BothBoundsCanBeDrawn) {
     EXPECT_EQ(highest.uniform(-0.3, 0.7), 0.7);
 }
 
-TEST(RandomSource, AnEmptyRangeGivesItsOnlyValue) {
+TEST(RandomSourceTest, AnEmptyRangeGivesItsOnlyValue) {
     SeededRandom random(1);
     EXPECT_EQ(random.uniform(0, 0), 0);
 }
 
-TEST(RandomSource, UniformNumbersSpreadEvenly) {
+TEST(RandomSourceTest, UniformNumbersSpreadEvenly) {
     SeededRandom random(2);
     constexpr int draws = 100'000;
     std::array<int, 10> counts{};
@@ -50,7 +50,7 @@ TEST(RandomSource, UniformNumbersSpreadEvenly) {
     }
 }
 
-TEST(RandomSource, IndicesStayInRangeAndReachEveryPlace) {
+TEST(RandomSourceTest, IndicesStayInRangeAndReachEveryPlace) {
     SeededRandom random(3);
     std::array<int, 7> counts{};
     for (int i = 0; i < 7000; ++i) {
@@ -61,7 +61,7 @@ TEST(RandomSource, IndicesStayInRangeAndReachEveryPlace) {
     }
 }
 
-TEST(RandomSource, TheSameSeedRepeats) {
+TEST(RandomSourceTest, TheSameSeedRepeats) {
     SeededRandom first(9);
     SeededRandom second(9);
     SeededRandom other(10);
@@ -70,7 +70,7 @@ TEST(RandomSource, TheSameSeedRepeats) {
     EXPECT_NE(drawn, other.uniform(0, 1));
 }
 
-TEST(RandomSource, TheSystemsGeneratorDiffersFromRunToRun) {
+TEST(RandomSourceTest, TheSystemsGeneratorDiffersFromRunToRun) {
     SystemRandom first;
     SystemRandom second;
     EXPECT_NE(first.uniform(0, 1), second.uniform(0, 1));

@@ -15,7 +15,7 @@ void expectNear(const Vec3& actual, const Vec3& expected) {
 
 } // namespace
 
-TEST(Node, ChildrenKeepTheirOrderAndAreFoundByNameAtAnyDepth) {
+TEST(NodeTest, ChildrenKeepTheirOrderAndAreFoundByNameAtAnyDepth) {
     Node root;
     const auto parent = std::make_shared<Node>("parent");
     const auto inner = std::make_shared<Node>("wanted");
@@ -31,14 +31,14 @@ TEST(Node, ChildrenKeepTheirOrderAndAreFoundByNameAtAnyDepth) {
     EXPECT_EQ(root.children().size(), 1U);
 }
 
-TEST(Node, APlacedNodeJumps) {
+TEST(NodeTest, APlacedNodeJumps) {
     Node node;
     node.setPosition({1, 2, 3});
     expectNear(node.displayedPose(0).position, {1, 2, 3});
     EXPECT_FALSE(node.isMoving());
 }
 
-TEST(Node, AnAdvancedNodeIsShownOnItsWay) {
+TEST(NodeTest, AnAdvancedNodeIsShownOnItsWay) {
     Node node;
     node.setPosition({1, 0, 0});
     node.advanceTo({{3, 0, 0}, node.orientation()});
@@ -49,7 +49,7 @@ TEST(Node, AnAdvancedNodeIsShownOnItsWay) {
     expectNear(node.displayedPose(1).position, {3, 0, 0});
 }
 
-TEST(Node, APitchedAndYawedBarPointsAlongTheThrow) {
+TEST(NodeTest, APitchedAndYawedBarPointsAlongTheThrow) {
     Node node;
     constexpr double pitch = 0.4;
     constexpr double aim = 0.6;
@@ -58,7 +58,7 @@ TEST(Node, APitchedAndYawedBarPointsAlongTheThrow) {
                {std::sin(aim) * std::cos(pitch), std::sin(pitch), -std::cos(aim) * std::cos(pitch)});
 }
 
-TEST(Scene, AnAnimatedNodeTurnsWithinTheTime) {
+TEST(SceneTest, AnAnimatedNodeTurnsWithinTheTime) {
     Scene scene;
     const auto node = std::make_shared<Node>();
     scene.root->addChild(node);
@@ -73,7 +73,7 @@ TEST(Scene, AnAnimatedNodeTurnsWithinTheTime) {
     EXPECT_FALSE(node->isMoving());
 }
 
-TEST(Scene, ANewAnimationReplacesTheFormerOne) {
+TEST(SceneTest, ANewAnimationReplacesTheFormerOne) {
     Scene scene;
     const auto node = std::make_shared<Node>();
     scene.animateOrientation(node, rotationFromEuler({0, 1, 0}), 0.1);
@@ -83,7 +83,7 @@ TEST(Scene, ANewAnimationReplacesTheFormerOne) {
     expectNear(node->orientation() * Vec3(1, 0, 0), {1, 0, 0});
 }
 
-TEST(Scene, AnAnimationOfARemovedNodeEnds) {
+TEST(SceneTest, AnAnimationOfARemovedNodeEnds) {
     Scene scene;
     auto node = std::make_shared<Node>();
     scene.animateOrientation(node, rotationFromEuler({0, 1, 0}), 0.1);

@@ -38,13 +38,13 @@ struct Stand {
     }
 };
 
-TEST(Allocation, CountsWhatIsTaken) {
+TEST(AllocationTest, CountsWhatIsTaken) {
     const int before = allocationCount();
     const auto taken = std::make_unique<int>(1);
     EXPECT_EQ(allocationCount(), before + 1) << *taken;
 }
 
-TEST(Allocation, CopyingAMovingSceneTakesNoMemory) {
+TEST(AllocationTest, CopyingAMovingSceneTakesNoMemory) {
     Stand stand;
     Frame frame = makeFrame(stand.scene, 1);
     const int before = allocationCount();
@@ -56,7 +56,7 @@ TEST(Allocation, CopyingAMovingSceneTakesNoMemory) {
     EXPECT_EQ(frame.items.size(), 17U);
 }
 
-TEST(Allocation, FollowingAMovingSceneTakesNoMemoryAfterTheFirstMovement) {
+TEST(AllocationTest, FollowingAMovingSceneTakesNoMemoryAfterTheFirstMovement) {
     Stand stand;
     TrackedFrame tracked(8192);
     Frame frame = makeFrame(stand.scene, 1);

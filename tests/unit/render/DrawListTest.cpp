@@ -11,7 +11,7 @@ DrawItem item(Shape shape, Material material = {}, const glm::vec3& place = {}) 
     return {nullptr, std::move(shape), std::move(material), glm::translate(glm::mat4(1), place), 1};
 }
 
-TEST(DrawList, EqualMeshesAreOneGroupWhateverTheirColours) {
+TEST(DrawListTest, EqualMeshesAreOneGroupWhateverTheirColours) {
     Frame frame;
     frame.items = {item(Sphere{1}, {.diffuse = colors::systemRed}), item(Box{}),
                    item(Sphere{1}, {.diffuse = colors::systemBlue})};
@@ -21,7 +21,7 @@ TEST(DrawList, EqualMeshesAreOneGroupWhateverTheirColours) {
     EXPECT_NE(list.instances[0].diffuse, list.instances[2].diffuse);
 }
 
-TEST(DrawList, DifferentPicturesAreDifferentGroupsOfCutOuts) {
+TEST(DrawListTest, DifferentPicturesAreDifferentGroupsOfCutOuts) {
     Frame frame;
     frame.items = {item(Plane{}, {.picture = "A"}), item(Plane{}, {.picture = "B"}),
                    item(Plane{}, {.picture = "A"})};
@@ -32,13 +32,13 @@ TEST(DrawList, DifferentPicturesAreDifferentGroupsOfCutOuts) {
     EXPECT_EQ(list.cutOut[1].look.picture, "B");
 }
 
-TEST(DrawList, SolidItemsComeFromNearToFar) {
+TEST(DrawListTest, SolidItemsComeFromNearToFar) {
     Frame frame;
     frame.items = {item(Box{}, {}, {0, 0, -9}), item(Box{}, {}, {0, 0, -2})};
     EXPECT_THAT(makeDrawList(frame).solid[0].items, testing::ElementsAre(1, 0));
 }
 
-TEST(DrawList, SeeThroughItemsComeFromFarToNear) {
+TEST(DrawListTest, SeeThroughItemsComeFromFarToNear) {
     Frame frame;
     const Material tint{.diffuse = colors::white.withAlpha(0.25F)};
     frame.items = {item(Box{}, tint, {0, 0, -2}), item(Box{}, tint, {0, 0, -9}),
@@ -50,7 +50,7 @@ TEST(DrawList, SeeThroughItemsComeFromFarToNear) {
     EXPECT_EQ(list.blended[2].items[0], 0U);
 }
 
-TEST(DrawList, FadedNodeIsSeeThrough) {
+TEST(DrawListTest, FadedNodeIsSeeThrough) {
     Frame frame;
     frame.items = {item(Box{})};
     frame.items[0].opacity = 0.5F;
@@ -59,7 +59,7 @@ TEST(DrawList, FadedNodeIsSeeThrough) {
     EXPECT_EQ(list.instances[0].diffuse.a, 0.5F);
 }
 
-TEST(DrawList, MovedItemKeepsItsGroup) {
+TEST(DrawListTest, MovedItemKeepsItsGroup) {
     Frame frame;
     frame.items = {item(Sphere{1}), item(Sphere{1}, {}, {0, 0, -1})};
     DrawList list = makeDrawList(frame);
@@ -69,7 +69,7 @@ TEST(DrawList, MovedItemKeepsItsGroup) {
     EXPECT_EQ(list.instances[0].worldRows[2].w, 0);
 }
 
-TEST(DrawList, FloorReachesTheFarPlaneWhereverTheCameraIs) {
+TEST(DrawListTest, FloorReachesTheFarPlaneWhereverTheCameraIs) {
     Frame frame;
     frame.camera.world = glm::translate(glm::mat4(1), {100, 1.2F, 1});
     frame.items = {item(Floor{0.05}, {}, {0, -0.05F, 0})};
@@ -83,7 +83,7 @@ TEST(DrawList, FloorReachesTheFarPlaneWhereverTheCameraIs) {
     EXPECT_FLOAT_EQ(floor.worldRows[1].w, -0.05F);
 }
 
-TEST(DrawList, ColoursBecomeLinearLight) {
+TEST(DrawListTest, ColoursBecomeLinearLight) {
     Frame frame;
     frame.items = {item(Box{}, {.diffuse = {0.5F, 0, 1}, .emission = {0, 0.5F, 0}})};
     const DrawList list = makeDrawList(frame);

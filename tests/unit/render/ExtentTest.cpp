@@ -19,23 +19,23 @@ DrawItem ball(const glm::vec3& place, float radius) {
     return {nullptr, Sphere{1}, {}, glm::scale(glm::translate(glm::mat4(1), place), glm::vec3(radius)), 1};
 }
 
-TEST(Extent, BallInTheMiddleIsInTheMiddle) {
+TEST(ExtentTest, BallInTheMiddleIsInTheMiddle) {
     const PixelRect bounds = view().bounds(extentOf(ball({0, 0, -5}, 0.5F)));
     const int radius = static_cast<int>(0.5 / 4.5 / std::tan(glm::radians(30.0)) * 200) + 1;
     EXPECT_EQ(bounds, (PixelRect{300 - radius, 200 - radius, 300 + radius, 200 + radius}));
 }
 
-TEST(Extent, BoundsAreInsideThePicture) {
+TEST(ExtentTest, BoundsAreInsideThePicture) {
     EXPECT_EQ(view().bounds(extentOf(box({0, 0, -5}, {90, 90, 1}))), (PixelRect{0, 0, 600, 400}));
     EXPECT_TRUE(view().bounds(extentOf(ball({40, 0, -5}, 0.5F))).empty());
 }
 
-TEST(Extent, WhatIsBehindTheCameraIsNotSeen) {
+TEST(ExtentTest, WhatIsBehindTheCameraIsNotSeen) {
     EXPECT_TRUE(view().bounds(extentOf(box({0, 0, 5}, {1, 1, 1}))).empty());
     EXPECT_TRUE(view().bounds(extentOf(ball({0, 0, 5}, 0.5F))).empty());
 }
 
-TEST(Extent, BoxThroughTheCameraPlaneIsCutThere) {
+TEST(ExtentTest, BoxThroughTheCameraPlaneIsCutThere) {
     // A floor board below the camera: from behind it to 5 m ahead, so it comes into view at the lower edge.
     const PixelRect bounds = view().bounds(extentOf(box({0, -1, 0}, {0.1F, 0.1F, 10})));
     EXPECT_EQ(bounds.bottom, 0);
@@ -43,11 +43,11 @@ TEST(Extent, BoxThroughTheCameraPlaneIsCutThere) {
     EXPECT_LT(bounds.top, 200);
 }
 
-TEST(Extent, BallAroundTheCameraFillsThePicture) {
+TEST(ExtentTest, BallAroundTheCameraFillsThePicture) {
     EXPECT_EQ(view().bounds(extentOf(ball({0, 0, 0}, 1))), (PixelRect{0, 0, 600, 400}));
 }
 
-TEST(Extent, ImageInAPlaneIsAsFarBelowIt) {
+TEST(ExtentTest, ImageInAPlaneIsAsFarBelowIt) {
     const Extent image = mirrored(extentOf(ball({1, 2, 3}, 0.5F)), {0, 1, 0, 0.05F});
     EXPECT_FLOAT_EQ(image.points[0].y, -2.1F);
     EXPECT_FLOAT_EQ(image.points[0].x, 1);

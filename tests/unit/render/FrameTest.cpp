@@ -21,7 +21,7 @@ glm::vec3 placeOf(const DrawItem& item) {
     return glm::vec3(item.world[3]);
 }
 
-TEST(Frame, OpacityIsMultipliedDownTheTree) {
+TEST(FrameTest, OpacityIsMultipliedDownTheTree) {
     Scene scene;
     const auto parent = add(scene, Box{});
     auto child = std::make_shared<Node>(Geometry{Sphere{}, Material{}});
@@ -34,7 +34,7 @@ TEST(Frame, OpacityIsMultipliedDownTheTree) {
     EXPECT_EQ(frame.items[1].opacity, 0.25F);
 }
 
-TEST(Frame, HiddenNodeHidesItsChildren) {
+TEST(FrameTest, HiddenNodeHidesItsChildren) {
     Scene scene;
     const auto parent = add(scene, Box{});
     parent->addChild(std::make_shared<Node>(Geometry{Sphere{}, Material{}}));
@@ -42,7 +42,7 @@ TEST(Frame, HiddenNodeHidesItsChildren) {
     EXPECT_TRUE(makeFrame(scene, 1).items.empty());
 }
 
-TEST(Frame, ScaleReachesChildrenAndTheirPositions) {
+TEST(FrameTest, ScaleReachesChildrenAndTheirPositions) {
     Scene scene;
     const auto head = add(scene, Sphere{0.5}, {0, 1, 0});
     head->scale = {1, 2, 1};
@@ -55,7 +55,7 @@ TEST(Frame, ScaleReachesChildrenAndTheirPositions) {
     EXPECT_FLOAT_EQ(glm::length(glm::vec3(frame.items[1].world[0])), 0.25F);
 }
 
-TEST(Frame, SimpleShapesOfAllSizesAreOfOneUnitShape) {
+TEST(FrameTest, SimpleShapesOfAllSizesAreOfOneUnitShape) {
     Scene scene;
     add(scene, Box{6, 0.1, 12.5});
     add(scene, Box{2, 0.01, 0.05});
@@ -64,7 +64,7 @@ TEST(Frame, SimpleShapesOfAllSizesAreOfOneUnitShape) {
     EXPECT_FLOAT_EQ(frame.items[0].world[2][2], 12.5F);
 }
 
-TEST(Frame, MovingNodeIsShownBetweenItsLastTwoPoses) {
+TEST(FrameTest, MovingNodeIsShownBetweenItsLastTwoPoses) {
     Scene scene;
     const auto ball = add(scene, Sphere{}, {0, 0, 0});
     ball->advanceTo({{0, 0, -1}, {1, 0, 0, 0}});
@@ -73,7 +73,7 @@ TEST(Frame, MovingNodeIsShownBetweenItsLastTwoPoses) {
     EXPECT_EQ(placeOf(makeFrame(scene, 1).items[0]), glm::vec3(0, 0, -1));
 }
 
-TEST(Frame, LaterChangesOfTheSceneDoNotReachIt) {
+TEST(FrameTest, LaterChangesOfTheSceneDoNotReachIt) {
     Scene scene;
     const auto ball = add(scene, Sphere{}, {1, 0, 0});
     const Frame frame = makeFrame(scene, 1);
@@ -83,7 +83,7 @@ TEST(Frame, LaterChangesOfTheSceneDoNotReachIt) {
     EXPECT_TRUE(frame.items[0].material.picture.empty());
 }
 
-TEST(Frame, SpotLightLooksAtItsTarget) {
+TEST(FrameTest, SpotLightLooksAtItsTarget) {
     Scene scene;
     const auto target = add(scene, Sphere{}, {0, 0, -6.25});
     auto lamp = std::make_shared<Node>();
@@ -100,7 +100,7 @@ TEST(Frame, SpotLightLooksAtItsTarget) {
     }
 }
 
-TEST(Frame, LookAtWithoutATargetKeepsTheOrientation) {
+TEST(FrameTest, LookAtWithoutATargetKeepsTheOrientation) {
     Scene scene;
     auto lamp = std::make_shared<Node>();
     lamp->light = Light{.type = Light::Type::spot};
@@ -109,7 +109,7 @@ TEST(Frame, LookAtWithoutATargetKeepsTheOrientation) {
     EXPECT_EQ(makeFrame(scene, 1).spot->direction, glm::vec3(0, 0, -1));
 }
 
-TEST(Frame, AmbientLightsAddUpInThousandths) {
+TEST(FrameTest, AmbientLightsAddUpInThousandths) {
     Scene scene;
     for (const double intensity : {150.0, 100.0}) {
         auto node = std::make_shared<Node>();
@@ -120,7 +120,7 @@ TEST(Frame, AmbientLightsAddUpInThousandths) {
     EXPECT_FALSE(makeFrame(scene, 1).spot);
 }
 
-TEST(Frame, ViewIsThatOfTheFirstCamera) {
+TEST(FrameTest, ViewIsThatOfTheFirstCamera) {
     Scene scene;
     auto node = std::make_shared<Node>();
     node->camera = Camera{};

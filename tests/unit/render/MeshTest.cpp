@@ -101,24 +101,24 @@ void PrintTo(const Body& body, std::ostream* stream) {
     *stream << body.name;
 }
 
-class ClosedMesh : public testing::TestWithParam<Body> {};
+class ClosedMeshTest : public testing::TestWithParam<Body> {};
 
-TEST_P(ClosedMesh, HasNoOpenEdge) {
+TEST_P(ClosedMeshTest, HasNoOpenEdge) {
     EXPECT_TRUE(openEdges(makeMesh(GetParam().shape)).empty());
 }
 
-TEST_P(ClosedMesh, HasNormalsOfUnitLengthThatPointOutwards) {
+TEST_P(ClosedMeshTest, HasNormalsOfUnitLengthThatPointOutwards) {
     const Mesh mesh = makeMesh(GetParam().shape);
     EXPECT_LT(worstNormalLength(mesh), 1e-5);
     EXPECT_GT(worstNormal(mesh), 0.9);
 }
 
-TEST_P(ClosedMesh, HasTheExtentOfItsShape) {
+TEST_P(ClosedMeshTest, HasTheExtentOfItsShape) {
     const glm::vec3 difference = glm::abs(extent(makeMesh(GetParam().shape)) - GetParam().extent);
     EXPECT_LT(glm::length(difference), 0.001F * glm::length(GetParam().extent));
 }
 
-TEST_P(ClosedMesh, HasTheVolumeOfItsShape) {
+TEST_P(ClosedMeshTest, HasTheVolumeOfItsShape) {
     EXPECT_NEAR(volume(makeMesh(GetParam().shape)), GetParam().volume, 0.02 * GetParam().volume);
 }
 
@@ -131,7 +131,7 @@ double roundedVolume(const glm::dvec3& core, double radius) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Shapes, ClosedMesh,
+    Shapes, ClosedMeshTest,
     testing::Values(
         Body{"box", Box{6, 0.1, 12.5}, {6, 0.1, 12.5}, 7.5},
         Body{"roundedBox",
@@ -150,7 +150,7 @@ INSTANTIATE_TEST_SUITE_P(
         Body{"notchedOutline", notched(), {2, 3, 0.5}, 1.0}),
     [](const auto& test) { return test.param.name; });
 
-TEST(Mesh, PlaneFacesTheViewerWithItsPictureUpright) {
+TEST(MeshTest, PlaneFacesTheViewerWithItsPictureUpright) {
     const Mesh mesh = makeMesh(Plane{0.46, 0.32});
     EXPECT_EQ(mesh.indices.size(), 6U);
     EXPECT_GT(worstNormal(mesh), 0.999);
@@ -161,23 +161,23 @@ TEST(Mesh, PlaneFacesTheViewerWithItsPictureUpright) {
     }
 }
 
-TEST(Mesh, FloorFacesUp) {
+TEST(MeshTest, FloorFacesUp) {
     const Mesh mesh = makeMesh(Floor{});
     EXPECT_GT(worstNormal(mesh), 0.999);
     EXPECT_EQ(mesh.vertices.front().normal, glm::vec3(0, 1, 0));
     EXPECT_EQ(extent(mesh), glm::vec3(2, 0, 2));
 }
 
-TEST(Mesh, OutlineOfFewerThanThreePointsIsEmpty) {
+TEST(MeshTest, OutlineOfFewerThanThreePointsIsEmpty) {
     EXPECT_TRUE(makeMesh(Extrusion{{{0, 0}, {1, 0}}, 1}).indices.empty());
     EXPECT_TRUE(makeMesh(Extrusion{}).indices.empty());
 }
 
-TEST(Mesh, OutlineWithoutDepthHasTwoFacesAndNoSides) {
+TEST(MeshTest, OutlineWithoutDepthHasTwoFacesAndNoSides) {
     EXPECT_EQ(makeMesh(Extrusion{{{0, 0}, {1, 0}, {0, 1}}, 0}).indices.size(), 6U);
 }
 
-TEST(Mesh, ChamferOfABoxIsRound) {
+TEST(MeshTest, ChamferOfABoxIsRound) {
     const glm::vec3 inner(0.48F);
     for (const Vertex& vertex : makeMesh(Box{1, 1, 1, 0.02}).vertices) {
         const glm::vec3 core = glm::clamp(vertex.position, -inner, inner);

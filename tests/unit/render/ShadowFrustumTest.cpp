@@ -44,13 +44,13 @@ glm::vec3 placeIn(const ShadowFrustum& frustum, const glm::vec3& point) {
     return glm::vec3(clip) / clip.w;
 }
 
-TEST(ShadowFrustum, EndsWithTheConeOfLight) {
+TEST(ShadowFrustumTest, EndsWithTheConeOfLight) {
     const ShadowFrustum frustum = frustumFor({boxAt({0, -0.05F, 0}, {400, 0.1F, 400})});
     const float edge = 12 * std::tan(glm::radians(65.0F));
     EXPECT_NEAR(std::abs(placeIn(frustum, {edge, 0, -6.25F}).x), 1, 1e-4);
 }
 
-TEST(ShadowFrustum, EndsWithWhatIsLitAndSeen) {
+TEST(ShadowFrustumTest, EndsWithWhatIsLitAndSeen) {
     const glm::vec3 left{-2, 0.05F, -9};
     const glm::vec3 right{1, 0.05F, -4};
     const ShadowFrustum frustum = frustumFor({ballAt(left), ballAt(right)});
@@ -62,7 +62,7 @@ TEST(ShadowFrustum, EndsWithWhatIsLitAndSeen) {
     EXPECT_GT(std::abs(placeIn(frustum, right).y), 0.8F);
 }
 
-TEST(ShadowFrustum, LeavesOutWhatIsBesideAndBehindTheCamera) {
+TEST(ShadowFrustumTest, LeavesOutWhatIsBesideAndBehindTheCamera) {
     const DrawItem court = boxAt({0, -0.05F, -5}, {6, 0.1F, 30});
     const ShadowFrustum frustum = frustumFor({court});
     EXPECT_GT(std::abs(placeIn(frustum, {0, 0, -1.1F}).y), 1) << "below the picture";
@@ -73,31 +73,31 @@ TEST(ShadowFrustum, LeavesOutWhatIsBesideAndBehindTheCamera) {
     EXPECT_EQ(withMore.halfWidth, frustum.halfWidth);
 }
 
-TEST(ShadowFrustum, LeavesOutSidesThatTurnAway) {
+TEST(ShadowFrustumTest, LeavesOutSidesThatTurnAway) {
     const DrawItem step = boxAt({5, 1, -8}, {2, 2, 40}); // its top is higher than the eye
     const ShadowFrustum frustum = frustumFor({step});
     EXPECT_LT(placeIn(frustum, {4, 2, -8}).x, 1.0F);
     EXPECT_GT(placeIn(frustum, {6, 2, -8}).x, 1.1F);
 }
 
-TEST(ShadowFrustum, LeavesOutWhatIsNotLit) {
+TEST(ShadowFrustumTest, LeavesOutWhatIsNotLit) {
     DrawItem lamp = ballAt({-5, 0.05F, -9});
     lamp.material.unlit = true;
     EXPECT_EQ(frustumFor({ballAt({0, 0.05F, -6}), lamp}), frustumFor({ballAt({0, 0.05F, -6})}));
 }
 
-TEST(ShadowFrustum, IsDeepEnoughForAllCasters) {
+TEST(ShadowFrustumTest, IsDeepEnoughForAllCasters) {
     const ShadowFrustum frustum = frustumFor({ballAt({0, 0.035F, -6}), ballAt({2, 3.2F, -9})});
     EXPECT_LT(std::abs(placeIn(frustum, {0, -0.015F, -6}).z), 1);
     EXPECT_LT(std::abs(placeIn(frustum, {2, 3.25F, -9}).z), 1);
 }
 
-TEST(ShadowFrustum, StaysTheSameWhileABallRolls) {
+TEST(ShadowFrustumTest, StaysTheSameWhileABallRolls) {
     const DrawItem court = boxAt({0, -0.05F, -6.25F}, {6, 0.1F, 12.5F});
     EXPECT_EQ(frustumFor({court, ballAt({0, 0.035F, -6})}), frustumFor({court, ballAt({2, 0.035F, -3})}));
 }
 
-TEST(ShadowFrustum, FloorsAndSeeThroughItemsCastNoShadow) {
+TEST(ShadowFrustumTest, FloorsAndSeeThroughItemsCastNoShadow) {
     DrawItem tint = ballAt({});
     tint.material.diffuse.alpha = 0.25F;
     EXPECT_FALSE(castsShadow(tint));
@@ -108,7 +108,7 @@ TEST(ShadowFrustum, FloorsAndSeeThroughItemsCastNoShadow) {
     EXPECT_TRUE(castsShadow(ballAt({})));
 }
 
-TEST(ShadowFrustum, ShadowReachesTheFloorAwayFromTheLight) {
+TEST(ShadowFrustumTest, ShadowReachesTheFloorAwayFromTheLight) {
     const Extent ball = extentOf(ballAt({3, 1, -6.25F}));
     const SpotLight spot = courtLight();
     const Extent shadow =

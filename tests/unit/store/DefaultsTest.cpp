@@ -23,28 +23,28 @@ class DefaultsTest : public Store {};
 using Stores = testing::Types<InMemory, OnDisk>;
 TYPED_TEST_SUITE(DefaultsTest, Stores);
 
-TYPED_TEST(DefaultsTest, aKeyThatWasNeverStoredIsAbsent) {
+TYPED_TEST(DefaultsTest, AKeyThatWasNeverStoredIsAbsent) {
     EXPECT_EQ(this->defaults.integer("boccia_gamesPlayed"), std::nullopt);
     EXPECT_EQ(this->defaults.boolean("boccia_isRealAthlete"), std::nullopt);
     EXPECT_EQ(this->defaults.text("boccia_language"), std::nullopt);
     EXPECT_EQ(this->defaults.bytes("boccia_diaryData"), std::nullopt);
 }
 
-TYPED_TEST(DefaultsTest, integersAreKeptOverTheirWholeRange) {
+TYPED_TEST(DefaultsTest, IntegersAreKeptOverTheirWholeRange) {
     for (const int value : {0, 1, -1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
         this->defaults.setInteger("key", value);
         EXPECT_EQ(this->defaults.integer("key"), value);
     }
 }
 
-TYPED_TEST(DefaultsTest, booleansAreKept) {
+TYPED_TEST(DefaultsTest, BooleansAreKept) {
     for (const bool value : {true, false}) {
         this->defaults.setBoolean("key", value);
         EXPECT_EQ(this->defaults.boolean("key"), value);
     }
 }
 
-TYPED_TEST(DefaultsTest, textsAreKeptExactly) {
+TYPED_TEST(DefaultsTest, TextsAreKeptExactly) {
     for (const char* value :
          {"", "ru", "5", "true", "@ByteArray(x)", " two\nlines\r\n", "日本語 العربية 🇫🇷", "a=b;\\x\"%20"}) {
         this->defaults.setText("key", value);
@@ -52,7 +52,7 @@ TYPED_TEST(DefaultsTest, textsAreKeptExactly) {
     }
 }
 
-TYPED_TEST(DefaultsTest, bytesAreKeptExactly) {
+TYPED_TEST(DefaultsTest, BytesAreKeptExactly) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte) {
         all += static_cast<char>(byte);
@@ -63,7 +63,7 @@ TYPED_TEST(DefaultsTest, bytesAreKeptExactly) {
     }
 }
 
-TYPED_TEST(DefaultsTest, aValueOfAnotherTypeReadsAsAbsent) {
+TYPED_TEST(DefaultsTest, AValueOfAnotherTypeReadsAsAbsent) {
     this->defaults.setInteger("integer", 1);
     this->defaults.setBoolean("boolean", true);
     this->defaults.setText("text", "1");
@@ -82,14 +82,14 @@ TYPED_TEST(DefaultsTest, aValueOfAnotherTypeReadsAsAbsent) {
     }
 }
 
-TYPED_TEST(DefaultsTest, aNewValueMayHaveAnotherTypeThanTheOld) {
+TYPED_TEST(DefaultsTest, ANewValueMayHaveAnotherTypeThanTheOld) {
     this->defaults.setText("key", "many");
     this->defaults.setInteger("key", 7);
     EXPECT_EQ(this->defaults.integer("key"), 7);
     EXPECT_EQ(this->defaults.text("key"), std::nullopt);
 }
 
-TYPED_TEST(DefaultsTest, keysMayHoldAnyCharacter) {
+TYPED_TEST(DefaultsTest, KeysMayHoldAnyCharacter) {
     const std::vector<std::string> keys{"a/b", "../up", ".", "..", "наука", "a b", "a%2Fb"};
     for (std::size_t i = 0; i < keys.size(); ++i) {
         this->defaults.setInteger(keys[i], static_cast<int>(i));

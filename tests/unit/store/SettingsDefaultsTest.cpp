@@ -9,7 +9,7 @@ namespace {
 
 using SettingsDefaultsTest = SettingsFolder;
 
-TEST_F(SettingsDefaultsTest, theFiveKeysAreKeptBetweenRuns) {
+TEST_F(SettingsDefaultsTest, TheFiveKeysAreKeptBetweenRuns) {
     {
         SettingsDefaults defaults(folder);
         defaults.setText("boccia_language", "ja");
@@ -26,13 +26,13 @@ TEST_F(SettingsDefaultsTest, theFiveKeysAreKeptBetweenRuns) {
     EXPECT_EQ(defaults.bytes("boccia_diaryData"), "[]");
 }
 
-TEST_F(SettingsDefaultsTest, aValueIsOnTheDiskAsSoonAsItIsSet) {
+TEST_F(SettingsDefaultsTest, AValueIsOnTheDiskAsSoonAsItIsSet) {
     SettingsDefaults defaults(folder);
     defaults.setInteger("boccia_gamesPlayed", 3);
     EXPECT_EQ(SettingsDefaults(folder).integer("boccia_gamesPlayed"), 3);
 }
 
-TEST_F(SettingsDefaultsTest, twoRunningGamesKeepEachOthersKeysAndSeeThemAtOnce) {
+TEST_F(SettingsDefaultsTest, TwoRunningGamesKeepEachOthersKeysAndSeeThemAtOnce) {
     SettingsDefaults one(folder);
     SettingsDefaults other(folder);
     for (int games = 1; games <= 100; ++games) {
@@ -43,7 +43,7 @@ TEST_F(SettingsDefaultsTest, twoRunningGamesKeepEachOthersKeysAndSeeThemAtOnce) 
     }
 }
 
-TEST_F(SettingsDefaultsTest, oneSetsAKeyThatTheOtherHasSetBefore) {
+TEST_F(SettingsDefaultsTest, OneSetsAKeyThatTheOtherHasSetBefore) {
     SettingsDefaults one(folder);
     SettingsDefaults other(folder);
     one.setText("boccia_language", "fr");
@@ -51,7 +51,7 @@ TEST_F(SettingsDefaultsTest, oneSetsAKeyThatTheOtherHasSetBefore) {
     EXPECT_EQ(one.text("boccia_language"), "pl");
 }
 
-TEST_F(SettingsDefaultsTest, aDiaryOfAHundredThousandEntriesIsKept) {
+TEST_F(SettingsDefaultsTest, ADiaryOfAHundredThousandEntriesIsKept) {
     std::string diary;
     diary.resize(20'000'000);
     for (std::size_t i = 0; i < diary.size(); ++i) {
@@ -62,7 +62,7 @@ TEST_F(SettingsDefaultsTest, aDiaryOfAHundredThousandEntriesIsKept) {
     EXPECT_EQ(SettingsDefaults(folder).bytes("boccia_diaryData"), diary);
 }
 
-TEST_F(SettingsDefaultsTest, theFolderIsInTheUsersOwnSettings) {
+TEST_F(SettingsDefaultsTest, TheFolderIsInTheUsersOwnSettings) {
     setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
     EXPECT_EQ(SettingsDefaults::userFolder(), folder / "vorbel");
     unsetenv("XDG_CONFIG_HOME");
