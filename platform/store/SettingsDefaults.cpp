@@ -40,7 +40,7 @@ bool canBeLock(const fs::path& file) {
 // True while it lives.
 class Raised {
 public:
-    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    explicit Raised(bool& flag) : flag_(flag = true) {}
     Raised(const Raised&) = delete;
     Raised& operator=(const Raised&) = delete;
     ~Raised() { flag_ = false; }

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uintmax_t largestFile = 64 * 1024 * 1024; // bytes
+constexpr std::uintmax_t largestFile = 64ULL * 1024 * 1024; // bytes
 
 bool isThere(const fs::path& file) {
     std::error_code error;

@@ -16,12 +16,7 @@ namespace vorbel {
 // Current from the start, with the renderer's kind of OpenGL. There must be a QGuiApplication.
 class OffscreenTarget {
 public:
-    OffscreenTarget(int width, int height) {
-        const QSurfaceFormat format = openGlFormat();
-        surface_.setFormat(format);
-        surface_.create();
-        context_.setFormat(format);
-        works_ = context_.create() && context_.makeCurrent(&surface_);
+    OffscreenTarget(int width, int height) : works_(madeCurrent()) {
         if (works_) {
             resize(width, height);
         }
@@ -44,10 +39,18 @@ public:
     void finish() { context_.functions()->glFinish(); } // waits until all is drawn
 
 private:
+    bool madeCurrent() {
+        const QSurfaceFormat format = openGlFormat();
+        surface_.setFormat(format);
+        surface_.create();
+        context_.setFormat(format);
+        return context_.create() && context_.makeCurrent(&surface_);
+    }
+
     QOffscreenSurface surface_;
     QOpenGLContext context_;
     std::unique_ptr<QOpenGLFramebufferObject> framebuffer_;
-    bool works_ = false;
+    bool works_;
 };
 
 } // namespace vorbel
