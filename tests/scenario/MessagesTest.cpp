@@ -9,7 +9,7 @@ namespace {
 
 constexpr AppLanguage ru = AppLanguage::ru;
 
-TEST(RussianMessages, LeadThroughAThrow) {
+TEST(RussianMessagesTest, LeadThroughAThrow) {
     EXPECT_EQ(messages::aimingHint(ru), "Стрелки [←][→] и [↑][↓] для прицела. [ПРОБЕЛ] - ок.");
     EXPECT_EQ(messages::lockPower(ru), "[ПРОБЕЛ] Зафиксировать силу броска");
     EXPECT_EQ(messages::ballInPlay(ru), "Мяч в игре...");
@@ -17,7 +17,7 @@ TEST(RussianMessages, LeadThroughAThrow) {
     EXPECT_EQ(messages::aiAiming(ru, BallColor::blue), "ИИ (Синие) целится...");
 }
 
-TEST(RussianMessages, SayWhoseTurnItIs) {
+TEST(RussianMessagesTest, SayWhoseTurnItIs) {
     EXPECT_EQ(messages::turn(ru, BallColor::red), "Ход Красных. [ПРОБЕЛ] для прицела");
     EXPECT_EQ(messages::turn(ru, BallColor::blue), "Ход Синих. [ПРОБЕЛ] для прицела");
     EXPECT_EQ(messages::jackOut(ru, BallColor::red),
@@ -32,7 +32,7 @@ TEST(RussianMessages, SayWhoseTurnItIs) {
               "Ничья в матче! Доп. энд 6: кон установлен в центре. Ход Синих. [ПРОБЕЛ] для прицела");
 }
 
-TEST(RussianMessages, TellTheResultOfAnEnd) {
+TEST(RussianMessagesTest, TellTheResultOfAnEnd) {
     EXPECT_EQ(messages::endResult(ru, {1, 2, 0}), "Красные взяли энд! Очков: 2.");
     EXPECT_EQ(messages::endResult(ru, {1, 0, 3}), "Синие взяли энд! Очков: 3.");
     EXPECT_EQ(messages::endResult(ru, {1, 0, 0}), "Ничья в энде!");
@@ -42,14 +42,14 @@ TEST(RussianMessages, TellTheResultOfAnEnd) {
     EXPECT_EQ(messages::nextEndPrompt(ru, {1, 0, 0}), "Ничья в энде! [ПРОБЕЛ] для следующего энда");
 }
 
-TEST(RussianMessages, TellTheResultOfAMatch) {
+TEST(RussianMessagesTest, TellTheResultOfAMatch) {
     EXPECT_EQ(messages::teamWinMatch(ru, BallColor::red), "КРАСНЫЕ ВЫИГРАЛИ МАТЧ!");
     EXPECT_EQ(messages::teamWinMatch(ru, BallColor::blue), "СИНИЕ ВЫИГРАЛИ МАТЧ!");
     EXPECT_EQ(messages::matchOver(ru, 7, 4), "КРАСНЫЕ ВЫИГРАЛИ МАТЧ! Счет 7:4. [ПРОБЕЛ] для новой игры");
     EXPECT_EQ(messages::matchOver(ru, 2, 5), "СИНИЕ ВЫИГРАЛИ МАТЧ! Счет 2:5. [ПРОБЕЛ] для новой игры");
 }
 
-TEST(RussianMessages, LeadThroughATournament) {
+TEST(RussianMessagesTest, LeadThroughATournament) {
     EXPECT_EQ(messages::tournamentRound(ru, 1, Country::southKorea),
               "Турнир, раунд 1/4! Соперник: Южная Корея (Лёгкий). [ПРОБЕЛ] для прицела");
     EXPECT_EQ(messages::tournamentRound(ru, 4, Country::poland),
@@ -61,7 +61,7 @@ TEST(RussianMessages, LeadThroughATournament) {
 }
 
 // The other languages fill their templates; the arguments come in the order that every template expects.
-TEST(EnglishMessages, FillTheTemplates) {
+TEST(EnglishMessagesTest, FillTheTemplates) {
     constexpr AppLanguage en = AppLanguage::en;
     EXPECT_EQ(messages::newEndStart(en, 2, BallColor::blue), "End 2 started. Blue's turn. [SPACE] to aim");
     EXPECT_EQ(messages::tieBreak(en, 5, BallColor::red),

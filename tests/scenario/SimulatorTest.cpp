@@ -33,22 +33,22 @@ std::string problem(std::vector<const char*> arguments) {
 
 } // namespace
 
-TEST(Simulator, TheSameSeedGivesTheSameMatch) {
+TEST(SimulatorTest, TheSameSeedGivesTheSameMatch) {
     EXPECT_EQ(trace(5), trace(5));
 }
 
-TEST(Simulator, SeedsGiveDifferentMatches) {
+TEST(SimulatorTest, SeedsGiveDifferentMatches) {
     EXPECT_NE(trace(5), trace(6));
 }
 
-TEST(Simulator, ATraceHasALineForEveryThrow) {
+TEST(SimulatorTest, ATraceHasALineForEveryThrow) {
     const std::string lines = trace(5);
     const auto throws = std::ranges::count(lines, '\n');
     EXPECT_GE(throws, 4 * 13); // a jack and twelve balls in each of four ends
     EXPECT_NE(lines.find("red throws jack"), std::string::npos);
 }
 
-TEST(Simulator, TheHistoryAddsUpToTheScore) {
+TEST(SimulatorTest, TheHistoryAddsUpToTheScore) {
     for (std::uint64_t seed = 1; seed <= 5; ++seed) {
         MatchPlayer match({.seed = seed});
         ASSERT_TRUE(match.play());
@@ -65,11 +65,11 @@ TEST(Simulator, TheHistoryAddsUpToTheScore) {
 }
 
 // A new number here means that matches go differently than before: say so, and why, when changing it.
-TEST(Simulator, TheSignatureOfTheBehaviourIsKnown) {
+TEST(SimulatorTest, TheSignatureOfTheBehaviourIsKnown) {
     EXPECT_EQ(matchSignature(), 0x6bdfeb174eb60fe6U);
 }
 
-TEST(Simulator, OptionsAreRead) {
+TEST(SimulatorTest, OptionsAreRead) {
     const Options options = parsed(
         {"--matches", "7", "--red", "ultra", "--blue", "easy", "--seed", "42", "--trace", "--jobs", "2"});
     EXPECT_EQ(options.matches, 7);
@@ -80,7 +80,7 @@ TEST(Simulator, OptionsAreRead) {
     EXPECT_TRUE(options.trace);
 }
 
-TEST(Simulator, WrongOptionsAreNamed) {
+TEST(SimulatorTest, WrongOptionsAreNamed) {
     EXPECT_EQ(problem({"--fast"}), "unknown option --fast; see vorbel-sim --help");
     EXPECT_EQ(problem({"--seed"}), "--seed needs a value; see vorbel-sim --help");
     EXPECT_EQ(problem({"--red", "huge"}), "huge is no value for --red; see vorbel-sim --help");

@@ -89,7 +89,7 @@ TEST_F(StateTest, AnEndedObservationHearsNothing) {
     EXPECT_EQ(calls, 0);
 }
 
-TEST(MatchLifetime, WorkThatIsStillPostedDoesNothingOnceTheMatchIsGone) {
+TEST(MatchLifetimeTest, WorkThatIsStillPostedDoesNothingOnceTheMatchIsGone) {
     VirtualQueue queue;
     SeededRandom random{1};
     SpyAudio audio;

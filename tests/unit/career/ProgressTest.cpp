@@ -6,14 +6,14 @@
 
 namespace vorbel {
 
-TEST(Progress, TheFirstRankTakesThreeMatches) {
+TEST(ProgressTest, TheFirstRankTakesThreeMatches) {
     EXPECT_EQ(rankKey(2).name(), "rank.novice");
     EXPECT_EQ(gamesToNextRank(2), 1);
     EXPECT_EQ(rankKey(3).name(), "rank.thirdYouth");
     EXPECT_EQ(gamesToNextRank(3), 3);
 }
 
-TEST(Progress, TheLastRankIsReachedWithSixtyMatches) {
+TEST(ProgressTest, TheLastRankIsReachedWithSixtyMatches) {
     EXPECT_EQ(rankKey(59).name(), "rank.cms");
     EXPECT_EQ(gamesToNextRank(59), 1);
     EXPECT_EQ(rankKey(60).name(), "rank.ms");
@@ -21,14 +21,14 @@ TEST(Progress, TheLastRankIsReachedWithSixtyMatches) {
     EXPECT_EQ(rankKey(INT_MAX).name(), "rank.ms");
 }
 
-TEST(Progress, EveryThresholdOfTheLadderChangesTheRank) {
+TEST(ProgressTest, EveryThresholdOfTheLadderChangesTheRank) {
     for (const int threshold : {3, 6, 10, 15, 20, 30, 45, 60}) {
         EXPECT_NE(rankKey(threshold - 1), rankKey(threshold));
         EXPECT_EQ(gamesToNextRank(threshold - 1), 1);
     }
 }
 
-TEST(Progress, ADamagedCountReadsAsTheLowestRank) {
+TEST(ProgressTest, ADamagedCountReadsAsTheLowestRank) {
     EXPECT_EQ(rankKey(-5).name(), "rank.novice");
     EXPECT_EQ(gamesToNextRank(-5), 5);
     EXPECT_EQ(gamesToNextRank(-INT_MAX), INT_MAX);

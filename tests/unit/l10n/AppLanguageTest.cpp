@@ -7,7 +7,7 @@
 namespace vorbel {
 namespace {
 
-TEST(AppLanguage, casesAreInTheOrderOfTheLanguagePicker) {
+TEST(AppLanguageTest, CasesAreInTheOrderOfTheLanguagePicker) {
     std::string codes;
     for (const AppLanguage language : allLanguages) {
         codes += std::string(rawValue(language)) + " ";
@@ -15,29 +15,29 @@ TEST(AppLanguage, casesAreInTheOrderOfTheLanguagePicker) {
     EXPECT_EQ(codes, "ru en es fr de it pt zh ja ko ar hi tr pl nl uk vi th id el ");
 }
 
-TEST(AppLanguage, isOneByte) {
+TEST(AppLanguageTest, IsOneByte) {
     EXPECT_EQ(sizeof(AppLanguage), 1u);
 }
 
-TEST(AppLanguage, isConstructedFromItsOwnCode) {
+TEST(AppLanguageTest, IsConstructedFromItsOwnCode) {
     EXPECT_EQ(languageFromRawValue("en"), AppLanguage::en);
     for (const AppLanguage language : allLanguages) {
         EXPECT_EQ(languageFromRawValue(rawValue(language)), language);
     }
 }
 
-TEST(AppLanguage, isNotConstructedFromAnyOtherText) {
+TEST(AppLanguageTest, IsNotConstructedFromAnyOtherText) {
     for (const char* code : {"xx", "EN", "", "e", "en ", " en", "eng", "en_US", "Русский"}) {
         EXPECT_FALSE(languageFromRawValue(code)) << code;
     }
 }
 
-TEST(AppLanguage, isRussianWhileNothingIsChosen) {
+TEST(AppLanguageTest, IsRussianWhileNothingIsChosen) {
     const std::string_view nothingStored;
     EXPECT_EQ(languageFromRawValue(nothingStored).value_or(defaultLanguage), AppLanguage::ru);
 }
 
-TEST(AppLanguage, displayNameIsTheLanguagesOwnNameForItself) {
+TEST(AppLanguageTest, DisplayNameIsTheLanguagesOwnNameForItself) {
     std::string names;
     for (const AppLanguage language : allLanguages) {
         names += std::string(displayName(language)) + "|";

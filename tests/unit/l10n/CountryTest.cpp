@@ -25,13 +25,13 @@ std::string isoCodeOf(std::string_view flag) {
     return code;
 }
 
-TEST(Country, thereAre37FromBelgiumToRussia) {
+TEST(CountryTest, ThereAre37FromBelgiumToRussia) {
     EXPECT_EQ(allCountries.size(), 37u);
     EXPECT_EQ(allCountries.front(), Country::belgium);
     EXPECT_EQ(allCountries.back(), Country::russia);
 }
 
-TEST(Country, isConstructedFromItsRussianNameOnly) {
+TEST(CountryTest, IsConstructedFromItsRussianNameOnly) {
     EXPECT_EQ(countryFromRawValue("Россия"), Country::russia);
     for (const char* name : {"Russia", "russia", "", "россия", "Россия ", "country.russia"}) {
         EXPECT_FALSE(countryFromRawValue(name)) << name;
@@ -41,13 +41,13 @@ TEST(Country, isConstructedFromItsRussianNameOnly) {
     }
 }
 
-TEST(Country, elSalvadorIsTwoWordsInEnglishAndOneInRussian) {
+TEST(CountryTest, ElSalvadorIsTwoWordsInEnglishAndOneInRussian) {
     EXPECT_EQ(key(Country::elSalvador).name(), "country.elSalvador");
     EXPECT_EQ(L10n::t(key(Country::elSalvador), AppLanguage::en), "El Salvador");
     EXPECT_EQ(rawValue(Country::elSalvador), "Сальвадор");
 }
 
-TEST(Country, flagsAreThoseOfTheIsoCodesInTheOrderOfThePicker) {
+TEST(CountryTest, FlagsAreThoseOfTheIsoCodesInTheOrderOfThePicker) {
     std::string codes;
     for (const Country country : allCountries) {
         codes += isoCodeOf(flagEmoji(country)) + " ";
@@ -57,7 +57,7 @@ TEST(Country, flagsAreThoseOfTheIsoCodesInTheOrderOfThePicker) {
               "MX PE EG ZA TN AU RU ");
 }
 
-TEST(Country, eachHasANameOfItsOwn) {
+TEST(CountryTest, EachHasANameOfItsOwn) {
     std::set<std::string_view> names;
     for (const Country country : allCountries) {
         const std::string_view name = L10n::t(key(country), AppLanguage::en);
@@ -67,7 +67,7 @@ TEST(Country, eachHasANameOfItsOwn) {
     EXPECT_EQ(names.size(), countryCount);
 }
 
-TEST(Country, rawValueIsTheNameThatRussianShows) {
+TEST(CountryTest, RawValueIsTheNameThatRussianShows) {
     for (const Country country : allCountries) {
         EXPECT_EQ(L10n::t(key(country), AppLanguage::ru), rawValue(country));
     }

@@ -149,7 +149,7 @@ constexpr std::array<Text, 113> settledTexts{{
      "· the VORBEL source code — written to be read, for players who like to see how it works"},
 }};
 
-TEST(EnglishTexts, AreTheSettledOnesLetterByLetter) {
+TEST(EnglishTextsTest, AreTheSettledOnesLetterByLetter) {
     for (std::size_t i = 0; i < keys.size(); ++i) {
         EXPECT_EQ(keys[i], settledTexts[i].key);
         EXPECT_EQ(tNamed(settledTexts[i].key, AppLanguage::en), settledTexts[i].text) << settledTexts[i].key;

@@ -9,38 +9,38 @@ std::string filled(TextKey key, std::initializer_list<std::string_view> argument
     return fill(t(key, AppLanguage::en), arguments);
 }
 
-TEST(Fill, argumentsTakeThePlaceholdersFromLeftToRight) {
+TEST(FillTest, ArgumentsTakeThePlaceholdersFromLeftToRight) {
     EXPECT_EQ(fill("%@ %@:%@.", {"a", "b", "c"}), "a b:c.");
 }
 
-TEST(Fill, placeholdersLeftOverStayAsTheyAre) {
+TEST(FillTest, PlaceholdersLeftOverStayAsTheyAre) {
     EXPECT_EQ(fill("%@ of %@", {"1"}), "1 of %@");
 }
 
-TEST(Fill, argumentsLeftOverAreIgnored) {
+TEST(FillTest, ArgumentsLeftOverAreIgnored) {
     EXPECT_EQ(fill("Rank: %@", {"Novice", "4"}), "Rank: Novice");
     EXPECT_EQ(fill("Draw", {"1"}), "Draw");
 }
 
-TEST(Fill, aPlaceholderInsideAnArgumentIsText) {
+TEST(FillTest, APlaceholderInsideAnArgumentIsText) {
     EXPECT_EQ(fill("%@ %@", {"%@", "b"}), "%@ b");
 }
 
-TEST(Fill, emptyTextsStayEmpty) {
+TEST(FillTest, EmptyTextsStayEmpty) {
     EXPECT_EQ(fill("", {"a"}), "");
     EXPECT_EQ(fill("[%@]", {""}), "[]");
 }
 
-TEST(Fill, aSinglePercentSignIsText) {
+TEST(FillTest, ASinglePercentSignIsText) {
     EXPECT_EQ(fill("50 % %@", {"a"}), "50 % a");
 }
 
-TEST(Fill, endCounterAlwaysShowsOf4) {
+TEST(FillTest, EndCounterAlwaysShowsOf4) {
     EXPECT_EQ(filled("label.end.format", {"1"}), "End 1 of 4");
     EXPECT_EQ(filled("label.end.format", {"7"}), "End 7 of 4"); // an extra end
 }
 
-TEST(Fill, templatesReadAsSentences) {
+TEST(FillTest, TemplatesReadAsSentences) {
     EXPECT_EQ(filled("label.playingAs.format", {"France", "BC2"}), "Playing for: France · Class BC2");
     EXPECT_EQ(filled("menu.rank.format", {"Novice"}), "Rank: Novice");
     EXPECT_EQ(filled("menu.gamesNext.format", {"2", "1"}), "Matches played: 2 · to next rank: 1");

@@ -7,25 +7,25 @@
 namespace vorbel::L10n {
 namespace {
 
-TEST(Lookup, thereAre113KeysAnd18AreMessagesOfTheMatch) {
+TEST(LookupTest, ThereAre113KeysAnd18AreMessagesOfTheMatch) {
     EXPECT_EQ(keys.size(), 113u);
     EXPECT_EQ(std::ranges::count_if(keys, [](std::string_view key) { return key.starts_with("msg."); }), 18);
 }
 
-TEST(Lookup, givesTheTextOfTheLanguage) {
+TEST(LookupTest, GivesTheTextOfTheLanguage) {
     EXPECT_EQ(t("menu.play", AppLanguage::en), "Play");
     EXPECT_EQ(t("menu.play", AppLanguage::ru), "Играть");
 }
 
-TEST(Lookup, givesTheGermanText) {
+TEST(LookupTest, GivesTheGermanText) {
     EXPECT_EQ(t("menu.play", AppLanguage::de), "Spielen");
 }
 
-TEST(Lookup, aTextThatTheLanguageLacksIsShownInEnglish) {
+TEST(LookupTest, ATextThatTheLanguageLacksIsShownInEnglish) {
     EXPECT_EQ(t("msg.initial", AppLanguage::ru), "Press [SPACE] to start aiming");
 }
 
-TEST(Lookup, anUnknownKeyFromStoredDataShowsAsItself) {
+TEST(LookupTest, AnUnknownKeyFromStoredDataShowsAsItself) {
     for (const char* name :
          {"menu.unknown", "", "menu", "menu.pla", "menu.play ", "MENU.PLAY", "zzz", "Red"}) {
         EXPECT_EQ(TextKey::named(name), std::nullopt) << name;
@@ -35,7 +35,7 @@ TEST(Lookup, anUnknownKeyFromStoredDataShowsAsItself) {
     }
 }
 
-TEST(Lookup, aKnownKeyFromStoredDataShowsItsText) {
+TEST(LookupTest, AKnownKeyFromStoredDataShowsItsText) {
     for (const std::string_view name : keys) {
         const auto key = TextKey::named(name);
         ASSERT_TRUE(key) << name;
@@ -45,7 +45,7 @@ TEST(Lookup, aKnownKeyFromStoredDataShowsItsText) {
     EXPECT_EQ(tNamed("diary.win", AppLanguage::de), "Sieg");
 }
 
-TEST(Lookup, everyKeyHasATextInEveryLanguage) {
+TEST(LookupTest, EveryKeyHasATextInEveryLanguage) {
     for (const AppLanguage language : allLanguages) {
         for (const std::string_view key : keys) {
             EXPECT_FALSE(tNamed(key, language).empty()) << key;
@@ -54,7 +54,7 @@ TEST(Lookup, everyKeyHasATextInEveryLanguage) {
     }
 }
 
-TEST(Lookup, titleOfTheProgramIsNotTranslated) {
+TEST(LookupTest, TitleOfTheProgramIsNotTranslated) {
     for (const AppLanguage language : allLanguages) {
         EXPECT_TRUE(t("about.text", language).starts_with("VORBEL\n\n")) << rawValue(language);
     }

@@ -59,7 +59,7 @@ constexpr auto centimetres = std::to_array<Case>({
     {AppLanguage::ar, 111, 0, "111 سنتيمترًا"},
 });
 
-TEST(Quantity, HasThePluralFormOfItsNumber) {
+TEST(QuantityTest, HasThePluralFormOfItsNumber) {
     for (const auto& [language, value, decimals, spoken] : metres) {
         EXPECT_EQ(quantity("unit.metres.format", value, decimals, language), spoken);
     }
@@ -68,7 +68,7 @@ TEST(Quantity, HasThePluralFormOfItsNumber) {
     }
 }
 
-TEST(Quantity, ANumberAloneIsRoundedAndHasTheDecimalSignOfTheLanguage) {
+TEST(QuantityTest, ANumberAloneIsRoundedAndHasTheDecimalSignOfTheLanguage) {
     EXPECT_EQ(number(62.4, 0, AppLanguage::en), "62");
     EXPECT_EQ(number(62.5, 0, AppLanguage::en), "63");
     EXPECT_EQ(number(0.05, 1, AppLanguage::en), "0.1");
@@ -76,7 +76,7 @@ TEST(Quantity, ANumberAloneIsRoundedAndHasTheDecimalSignOfTheLanguage) {
     EXPECT_EQ(number(2.99, 1, AppLanguage::fr), "3");
 }
 
-class UnitForms : public vorbel::test::EachLanguage {};
+class UnitFormsTest : public vorbel::test::EachLanguage {};
 
 std::size_t formsOf(AppLanguage language) {
     switch (language) {
@@ -98,7 +98,7 @@ std::size_t formsOf(AppLanguage language) {
     }
 }
 
-TEST_P(UnitForms, AreAsManyAsTheLanguageHasAndEachHoldsItsNumberOnce) {
+TEST_P(UnitFormsTest, AreAsManyAsTheLanguageHasAndEachHoldsItsNumberOnce) {
     for (const char* key : {"unit.degrees.format", "unit.centimetres.format", "unit.metres.format"}) {
         const auto forms = vorbel::test::split(texts.at(key), '|');
         ASSERT_EQ(forms.size(), formsOf(GetParam())) << key;
@@ -110,7 +110,7 @@ TEST_P(UnitForms, AreAsManyAsTheLanguageHasAndEachHoldsItsNumberOnce) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(L10n, UnitForms, testing::ValuesIn(allLanguages), vorbel::test::nameOf);
+INSTANTIATE_TEST_SUITE_P(L10n, UnitFormsTest, testing::ValuesIn(allLanguages), vorbel::test::nameOf);
 
 } // namespace
 } // namespace vorbel::L10n

@@ -7,7 +7,7 @@
 namespace vorbel::test {
 namespace {
 
-using Scripts = EachLanguage;
+using ScriptTest = EachLanguage;
 
 // Names and abbreviations that stay in Latin letters in every language, those of keys among them.
 const std::set<std::string_view> latinEverywhere{"VORBEL", "vorbel-sim", "BC1", "BC2",   "BC3",       "BC4",
@@ -58,7 +58,7 @@ bool hasLatinLetters(AppLanguage language) {
     return scriptsOf(language).contains(Script::latin);
 }
 
-TEST_P(Scripts, areUtf8AndHoldNoUnexpectedSigns) {
+TEST_P(ScriptTest, AreUtf8AndHoldNoUnexpectedSigns) {
     for (const auto& [key, text] : texts) {
         for (const char32_t point : codePoints(text)) {
             EXPECT_NE(scriptOf(point), Script::other)
@@ -67,7 +67,7 @@ TEST_P(Scripts, areUtf8AndHoldNoUnexpectedSigns) {
     }
 }
 
-TEST_P(Scripts, holdNoLettersOfAnotherScript) {
+TEST_P(ScriptTest, HoldNoLettersOfAnotherScript) {
     auto allowed = scriptsOf(GetParam());
     allowed.insert({Script::common, Script::latin});
     for (const auto& [key, text] : texts) {
@@ -78,7 +78,7 @@ TEST_P(Scripts, holdNoLettersOfAnotherScript) {
     }
 }
 
-TEST_P(Scripts, holdLatinWordsOnlyWhereTheyAreNames) {
+TEST_P(ScriptTest, HoldLatinWordsOnlyWhereTheyAreNames) {
     if (hasLatinLetters(GetParam())) {
         return;
     }
@@ -89,7 +89,7 @@ TEST_P(Scripts, holdLatinWordsOnlyWhereTheyAreNames) {
     }
 }
 
-TEST_P(Scripts, holdLettersOfTheirOwnInEachText) {
+TEST_P(ScriptTest, HoldLettersOfTheirOwnInEachText) {
     const auto own = scriptsOf(GetParam());
     for (const auto& [key, text] : texts) {
         const auto points = codePoints(text);
@@ -100,7 +100,7 @@ TEST_P(Scripts, holdLettersOfTheirOwnInEachText) {
     }
 }
 
-TEST_P(Scripts, holdNoLettersThatTheLanguageLacks) {
+TEST_P(ScriptTest, HoldNoLettersThatTheLanguageLacks) {
     for (const auto& [key, text] : texts) {
         for (const char32_t letter : foreignLetters(GetParam())) {
             EXPECT_EQ(codePoints(text).find(letter), std::u32string::npos) << key << ": " << text;
@@ -108,7 +108,7 @@ TEST_P(Scripts, holdNoLettersThatTheLanguageLacks) {
     }
 }
 
-TEST_P(Scripts, japaneseHasKanaAndTheOthersTheirMainScript) {
+TEST_P(ScriptTest, JapaneseHasKanaAndTheOthersTheirMainScript) {
     std::set<Script> used;
     for (const auto& [key, text] : texts) {
         for (const char32_t point : codePoints(text)) {
@@ -120,7 +120,7 @@ TEST_P(Scripts, japaneseHasKanaAndTheOthersTheirMainScript) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(L10n, Scripts, testing::ValuesIn(allLanguages), nameOf);
+INSTANTIATE_TEST_SUITE_P(L10n, ScriptTest, testing::ValuesIn(allLanguages), nameOf);
 
 } // namespace
 } // namespace vorbel::test

@@ -8,7 +8,7 @@
 namespace vorbel::test {
 namespace {
 
-using Texts = EachLanguage;
+using TextsTest = EachLanguage;
 
 // The names of keys in square brackets other than the arrows: the space bar's.
 std::set<std::string_view> keyNames(std::string_view text) {
@@ -34,7 +34,7 @@ char32_t kindOfLine(std::string_view line) {
     return first == U'·' || (first >= U'0' && first <= U'9') ? first : U'x';
 }
 
-TEST_P(Texts, areComplete) {
+TEST_P(TextsTest, AreComplete) {
     for (const std::string_view key : L10n::keys) {
         const bool isComposedByTheGame = GetParam() == AppLanguage::ru && key.starts_with("msg.");
         EXPECT_EQ(texts.contains(key), !isComposedByTheGame) << key;
@@ -45,7 +45,7 @@ TEST_P(Texts, areComplete) {
     }
 }
 
-TEST_P(Texts, haveThePlaceholdersOfTheEnglishOnes) {
+TEST_P(TextsTest, HaveThePlaceholdersOfTheEnglishOnes) {
     for (const auto& [key, text] : texts) {
         if (!key.starts_with("unit.")) { // whose forms QuantityTest counts
             EXPECT_EQ(count(text, "%@"), count(english.at(key), "%@")) << key;
@@ -55,11 +55,11 @@ TEST_P(Texts, haveThePlaceholdersOfTheEnglishOnes) {
     }
 }
 
-TEST_P(Texts, endCounterSaysOf4) {
+TEST_P(TextsTest, EndCounterSaysOf4) {
     EXPECT_EQ(count(texts.at("label.end.format"), "4"), 1u);
 }
 
-TEST_P(Texts, haveTheLinesOfTheEnglishOnes) {
+TEST_P(TextsTest, HaveTheLinesOfTheEnglishOnes) {
     for (const auto& [key, text] : texts) {
         const auto lines = split(text, '\n');
         const auto englishLines = split(english.at(key), '\n');
@@ -72,7 +72,7 @@ TEST_P(Texts, haveTheLinesOfTheEnglishOnes) {
     }
 }
 
-TEST_P(Texts, haveNoLeadingTrailingOrDoubledBlanks) {
+TEST_P(TextsTest, HaveNoLeadingTrailingOrDoubledBlanks) {
     for (const auto& [key, text] : texts) {
         for (const std::string_view line : split(text, '\n')) {
             std::u32string points = codePoints(line);
@@ -87,7 +87,7 @@ TEST_P(Texts, haveNoLeadingTrailingOrDoubledBlanks) {
     }
 }
 
-TEST_P(Texts, nameTheSpaceBarEverywhereTheSame) {
+TEST_P(TextsTest, NameTheSpaceBarEverywhereTheSame) {
     std::set<std::string_view> names;
     for (const auto& [key, text] : texts) {
         EXPECT_EQ(count(text, "["), count(english.at(key), "[")) << key;
@@ -101,7 +101,7 @@ TEST_P(Texts, nameTheSpaceBarEverywhereTheSame) {
     EXPECT_EQ(names.size(), 1u) << testing::PrintToString(names);
 }
 
-TEST_P(Texts, areNotLeftInEnglish) {
+TEST_P(TextsTest, AreNotLeftInEnglish) {
     if (GetParam() == AppLanguage::en) {
         return;
     }
@@ -117,7 +117,7 @@ TEST_P(Texts, areNotLeftInEnglish) {
     }
 }
 
-TEST_P(Texts, tellChoicesSideBySideApart) {
+TEST_P(TextsTest, TellChoicesSideBySideApart) {
     for (const char* family : {"team.", "difficulty.", "rank.", "country.", "bc.desc.", "diary."}) {
         std::map<std::string_view, std::string_view> keyOf;
         for (const auto& [key, text] : texts) {
@@ -139,7 +139,7 @@ bool isCapital(char32_t letter) {
 }
 
 // The name of the winner within is not in capitals: words around it that are would shout past it.
-TEST_P(Texts, TellTheWinnerOfAMatchWithoutShouting) {
+TEST_P(TextsTest, TellTheWinnerOfAMatchWithoutShouting) {
     if (GetParam() == AppLanguage::ru || GetParam() == AppLanguage::en) {
         return;
     }
@@ -150,7 +150,7 @@ TEST_P(Texts, TellTheWinnerOfAMatchWithoutShouting) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(L10n, Texts, testing::ValuesIn(allLanguages), nameOf);
+INSTANTIATE_TEST_SUITE_P(L10n, TextsTest, testing::ValuesIn(allLanguages), nameOf);
 
 } // namespace
 } // namespace vorbel::test

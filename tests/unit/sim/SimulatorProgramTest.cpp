@@ -22,7 +22,7 @@ LadderSettings ladder(const Arguments& arguments) {
 
 } // namespace
 
-TEST(SimulatorProgram, TellsAMatchInALine) {
+TEST(SimulatorProgramTest, TellsAMatchInALine) {
     std::ostringstream out;
     std::ostringstream errors;
     EXPECT_EQ(simulate(Arguments{"--seed", "3"}, out, errors), 0);
@@ -30,7 +30,7 @@ TEST(SimulatorProgram, TellsAMatchInALine) {
     EXPECT_EQ(errors.str(), "");
 }
 
-TEST(SimulatorProgram, WrongArgumentsAreOneLineAndStatus2) {
+TEST(SimulatorProgramTest, WrongArgumentsAreOneLineAndStatus2) {
     std::ostringstream out;
     std::ostringstream errors;
     EXPECT_EQ(simulate(Arguments{"--fast"}, out, errors), 2);
@@ -38,7 +38,7 @@ TEST(SimulatorProgram, WrongArgumentsAreOneLineAndStatus2) {
     EXPECT_EQ(errors.str(), "vorbel-sim: unknown option --fast; see vorbel-sim --help\n");
 }
 
-TEST(SimulatorProgram, OutputThatCannotBeWrittenIsOneLineAndStatus1) {
+TEST(SimulatorProgramTest, OutputThatCannotBeWrittenIsOneLineAndStatus1) {
     for (const Arguments& arguments : {Arguments{"--help"}, Arguments{"--matches", "2147483647"}}) {
         std::ofstream full("/dev/full");
         std::ostringstream errors;
@@ -47,19 +47,19 @@ TEST(SimulatorProgram, OutputThatCannotBeWrittenIsOneLineAndStatus1) {
     }
 }
 
-TEST(SimulatorProgram, AnOddNumberOfMatchesOnTheLadderBecomesEven) {
+TEST(SimulatorProgramTest, AnOddNumberOfMatchesOnTheLadderBecomesEven) {
     EXPECT_EQ(ladder({}).matchesPerCell, 100);
     EXPECT_EQ(ladder({"--matches", "6"}).matchesPerCell, 3);
     EXPECT_EQ(ladder({"--matches", "5"}).matchesPerCell, 3);
 }
 
-TEST(SimulatorProgram, TellsHowLongTheRestWillTake) {
+TEST(SimulatorProgramTest, TellsHowLongTheRestWillTake) {
     EXPECT_EQ(progressText(0, 400, 0), "0 of 400 matches");
     EXPECT_EQ(progressText(100, 400, 10), "100 of 400 matches, 30 s left");
     EXPECT_EQ(progressText(10, 400, 20), "10 of 400 matches, 13 min left");
 }
 
-TEST(SimulatorProgram, LadderShowsItsProgressOnATerminalAndClearsItInTheEnd) {
+TEST(SimulatorProgramTest, LadderShowsItsProgressOnATerminalAndClearsItInTheEnd) {
     std::ostringstream out;
     std::ostringstream errors;
     std::ostringstream terminal;
@@ -70,7 +70,7 @@ TEST(SimulatorProgram, LadderShowsItsProgressOnATerminalAndClearsItInTheEnd) {
     EXPECT_EQ(out.str().find('\r'), std::string::npos);
 }
 
-TEST(SimulatorProgram, TheLargestLadderIsCounted) {
+TEST(SimulatorProgramTest, TheLargestLadderIsCounted) {
     const LadderSettings settings = ladder({"--matches", "2147483647"});
     EXPECT_EQ(settings.matchesPerCell, 1 << 30);
     EXPECT_EQ(matchesOf(settings), std::int64_t{1} << 34);
@@ -84,7 +84,7 @@ TEST(SimulatorProgram, TheLargestLadderIsCounted) {
     EXPECT_EQ(winRate(half, settings.matchesPerCell, AIDifficulty::hard, AIDifficulty::easy), 1);
 }
 
-TEST(SimulatorProgram, MoreJobsThanThereCanBeAreAsManyAsThereAre) {
+TEST(SimulatorProgramTest, MoreJobsThanThereCanBeAreAsManyAsThereAre) {
     LadderSettings few{.matchesPerCell = 1};
     LadderSettings many{.matchesPerCell = 1, .jobs = std::numeric_limits<unsigned>::max()};
     EXPECT_EQ(playLadder(many), playLadder(few));
