@@ -25,7 +25,6 @@ struct Direction {
 };
 
 Direction directionTo(double dx, double dz) {
-    constexpr double onTheSpot = 0.001; // m
     const double length = std::sqrt(dx * dx + dz * dz);
     return length <= onTheSpot ? Direction{0, -1} : Direction{dx / length, dz / length};
 }

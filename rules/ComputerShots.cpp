@@ -22,7 +22,6 @@ constexpr double hitPower = 1.6;        // of the power that would just reach th
 constexpr double raisePower = 1.3;
 constexpr double raiseScore = 8.0;
 constexpr double blockScore = 6.0;
-constexpr double onTheSpot = 0.001; // m: no direction can be told from so near
 
 AICandidate draw(const Position& position, const Vec3& jack, double theirBest) {
     const Vec3 spot = freeSpotNearJack(position, jack);

@@ -43,6 +43,8 @@ inline constexpr double far = -7, near = -4;  // z, m
 // when there are none.
 [[nodiscard]] Vec3 freeSpotNearJack(const Position& position, const Vec3& jack);
 
+inline constexpr double onTheSpot = 0.001; // m: a throw to so near a target has no direction
+
 // The place `beyondBy` metres further along the side's throw to the target. A target on the spot that the
 // side throws from stays where it is.
 [[nodiscard]] Vec3 extendTarget(const Vec3& target, double beyondBy, BallColor side);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "math/Vector.h"
+#include "rules/BallModel.h"
 #include "rules/MatchTypes.h"
 
 namespace vorbel::court {
@@ -22,12 +23,9 @@ inline constexpr int throwingBoxes = 6;
     return side == BallColor::red ? 2 : 3;
 }
 
-// The floor that balls roll on lies a little below the court that is seen, so that they seem to press into
-// it.
+// The floor that balls roll on lies a little below the court that is seen: they seem to press into it.
 inline constexpr double floorY = -0.015;
-
-// Height of a resting ball's centre: its radius above that floor.
-inline constexpr double restingHeight = 0.035;
+inline constexpr double restingHeight = floorY + ball::radius; // of a resting ball's centre
 
 // The cross, where a jack is put that left the court, and that of an extra end.
 inline constexpr Vec3 cross{0, restingHeight, -length / 2};

@@ -8,7 +8,7 @@
 namespace vorbel {
 
 bool hasSettled(double height, const Vec3& velocity) {
-    constexpr double airborneHeight = 0.06; // m; the centre of a resting ball lies at 0.035
+    constexpr double airborneHeight = 0.06; // m; well above court::restingHeight
     const double speed = std::sqrt(velocity.x * velocity.x + velocity.z * velocity.z);
     return height <= airborneHeight && speed < ball::restingSpeed;
 }

@@ -1,5 +1,7 @@
 #include "scene/Pointer.h"
 
+#include "rules/CourtGeometry.h"
+
 namespace vorbel::arena {
 
 namespace {
@@ -27,7 +29,7 @@ void addBars(Node& pointer, PointerLook look) {
 
 void addPointer(Scene& scene) {
     auto pointer = std::make_shared<Node>(std::string(pointerName));
-    pointer->setPosition({0, pointerHeight, -0.5});
+    pointer->setPosition({0, pointerHeight, court::throwOrigin(BallColor::red).z});
     pointer->opacity = 0;
     addBars(*pointer, PointerLook::usual);
     scene.root->addChild(std::move(pointer));
