@@ -6,6 +6,8 @@
 #include "rules/CourtGeometry.h"
 #include "rules/JackValidity.h"
 
+#include <glm/geometric.hpp>
+
 #include <cmath>
 
 namespace vorbel::narration {
@@ -35,7 +37,7 @@ std::string jack(const Position& position, BallColor thrower, AppLanguage langua
         return std::string(L10n::t("say.jack.none", language));
     }
     const Vec3 origin = court::throwOrigin(thrower);
-    const std::string away = fromThrower(closestBall({&origin, 1}, *position.jack).distance, language);
+    const std::string away = fromThrower(glm::distance(origin, *position.jack), language);
     const double toTheRight = position.jack->x - origin.x;
     if (isNothingFromThrower(toTheRight)) {
         return L10n::fill(L10n::t("say.jack.ahead.format", language), {away});

@@ -5,6 +5,8 @@
 #include "narration/Distance.h"
 #include "narration/Sentences.h"
 
+#include <glm/geometric.hpp>
+
 #include <algorithm>
 #include <vector>
 
@@ -19,12 +21,13 @@ struct Measured {
 
 // From the closest to the farthest; none without a jack.
 std::vector<Measured> measured(const Position& position) {
+    if (!position.jack) {
+        return {};
+    }
     std::vector<Measured> balls;
     for (const BallColor side : {BallColor::red, BallColor::blue}) {
         for (const Vec3& ball : position.of(side)) {
-            if (position.jack) {
-                balls.push_back({side, closestBall({&ball, 1}, *position.jack).distance});
-            }
+            balls.push_back({side, glm::distance(ball, *position.jack)});
         }
     }
     std::ranges::stable_sort(balls, {}, &Measured::distance);
