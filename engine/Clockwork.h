@@ -28,8 +28,7 @@ public:
         return ticks_.add(std::move(observer));
     }
 
-    // The computer's turn has two steps, of which one at most is scheduled: to take aim, and to release the
-    // ball.
+    // The steps of the computer's turn, to take aim and to release the ball: one at most is scheduled.
     enum class Step : std::uint8_t { none, aim, release };
     [[nodiscard]] Step scheduled() const { return scheduled_.step; }
     // Runs the work `seconds` from now as that step, in place of what was scheduled before.

@@ -18,6 +18,7 @@
 #include "rules/CourtGeometry.h"
 #include "rules/JackValidity.h"
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -33,8 +34,7 @@ public:
     static constexpr Vec3 crossPosition = court::cross; // where the jack is re-spotted
     static constexpr double tickPeriod = Clockwork::tickPeriod;
 
-    // Builds the arena, starts the crowd and puts the jack into red's box. The services must outlive the
-    // match.
+    // Builds the arena, starts the crowd and puts the jack into red's box. The services must outlive it.
     explicit GameLogic(const Platform& platform);
     ~GameLogic();
     GameLogic(const GameLogic&) = delete;
@@ -63,9 +63,10 @@ public:
     // Where the balls lie that have been thrown in this end.
     [[nodiscard]] Position thrownBalls() const { return balls_.thrown(); }
 
+    Scene scene; // built once; later balls come and go, the pointer moves, and options change what is seen
+
     // --- Written by the player's choices as well as by the match
 
-    Scene scene; // built once; later only balls come and go and the pointer moves
     Published<std::string> message{
         "Нажмите [ПРОБЕЛ] для начала прицеливания"}; // Russian until a rule sets it
     Published<bool> redIsAI{false};                  // assigning it may start the computer's turn
@@ -101,7 +102,7 @@ public:
     void moveAimDown();
     void processInput(); // the one action key: next stage of the throw, next end, next match
 
-    // --- engine/AimingHelp.cpp: for throwers who need more time or smaller steps; nothing here acts by itself
+    // --- engine/AimingHelp.cpp: more time and smaller steps, for throwers who need them
 
     void setPowerPace(double pace); // 0…1 of the class's swing; at 0 the power waits to be set by hand
     [[nodiscard]] double powerPace() const { return state_.powerPace; }
@@ -117,8 +118,8 @@ public:
     void spawnBall();       // puts the next ball, the jack or one of the current side, into the throwing box
     void throwActiveBall(); // launches the waiting ball along the aim; nothing without one
     void checkPhysics();    // one tick of a running throw: hands over when it is over
-    void physicsWorldDidBegin(const Node& nodeA,
-                              const Node& nodeB); // clicks when two balls strike each other
+    // Two nodes begin to touch: clicks when they are balls that strike each other.
+    void physicsWorldDidBegin(const Node& nodeA, const Node& nodeB);
 
     // --- engine/EndFlow.cpp
 

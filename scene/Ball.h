@@ -27,8 +27,8 @@ namespace vorbel {
 // Whether the node is a ball, of any kind, by its name.
 [[nodiscard]] bool isBall(const Node& node);
 
-// How balls are told apart without their colour, and from the court: rings on red ones and crosses on blue ones; lines
-// around all.
+// How balls are told apart without their colour, and from the court: by rings on red ones and crosses on
+// blue ones, and by lines around all.
 struct BallLook {
     bool marked = false;
     bool outlined = false;

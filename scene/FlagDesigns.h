@@ -8,8 +8,7 @@
 
 namespace vorbel::arena {
 
-// Equal stripes, one above the other or side by side: from the top or from the left. Needs at least one
-// colour.
+// Equal stripes, one above the other from the top or side by side from the left. Needs a colour at least.
 [[nodiscard]] Node::Ptr makeStripedFlag(std::span<const Color> stripeColors, bool horizontal, double width,
                                         double height);
 [[nodiscard]] Node::Ptr makeCircleFlag(const Color& background, const Color& circle, double width,

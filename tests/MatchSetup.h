@@ -19,7 +19,8 @@ public:
         return game_.balls_.place(color, {x, court::restingHeight, z});
     }
     void removeJack() { game_.balls_.removeJack(); }
-    void emptyCourt() { // no balls at all, not even a waiting one
+    // No balls at all, not even a waiting one: it is launched, then cleared away with all others.
+    void emptyCourt() {
         game_.balls_.launch({});
         game_.balls_.clear();
     }
