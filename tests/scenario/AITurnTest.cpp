@@ -15,13 +15,16 @@ protected:
         emptyCourt();
         level(AIDifficulty::easy); // aims at the jack itself
     }
-    // The computer plays red with the jack there; on `ultra` there is no error.
-    void ultraAimsAtEmptyCourtWithJackAt(double x, double z) {
+    // The computer plays red and has just taken aim; on `ultra` there is no error.
+    void ultraAims() {
         level(AIDifficulty::ultra);
-        jackAt(x, z);
         playingWith(BallColor::red);
         game.redIsAI = true;
         queue.advance(0.8);
+    }
+    void ultraAimsAtEmptyCourtWithJackAt(double x, double z) {
+        jackAt(x, z);
+        ultraAims();
     }
 };
 
@@ -88,37 +91,27 @@ TEST_F(AITurnTest, ATargetFarToTheSideIsAimedAtAlongTheLimit) {
 
 TEST_F(AITurnTest, ATargetOnTheSpotItselfGivesTheWeakestThrow) {
     // The computer holds the point, no thrown ball lies short: it pushes its own waiting ball.
-    emptyCourt();
-    level(AIDifficulty::ultra);
     jackAt(0, -6);
     redAt(0, -6.05);
     blueAt(0.1, -6);
-    playingWith(BallColor::red);
-    game.redIsAI = true;
-    queue.advance(0.8);
+    ultraAims();
     EXPECT_EQ(game.aimAngle, pi / 4);
     EXPECT_EQ(game.aimPower, 10);
 }
 
 TEST_F(AITurnTest, AHitMultipliesThePower) {
     // The opponent's ball 6.65 m straight ahead: the target lies 0.35 m beyond it, 7 m away.
-    level(AIDifficulty::ultra);
     jackAt(-1, -7.4);
     blueAt(-1, -7.15);
-    playingWith(BallColor::red);
-    game.redIsAI = true;
-    queue.advance(0.8);
+    ultraAims();
     EXPECT_NEAR(game.aimAngle, 0, exactly);
     EXPECT_NEAR(game.aimPower, 97.6, 1e-9);
 }
 
 TEST_F(AITurnTest, AHitFurtherAwayIsThrownAtFullPower) {
-    level(AIDifficulty::ultra);
     jackAt(-1, -8.4);
     blueAt(-1, -8.15);
-    playingWith(BallColor::red);
-    game.redIsAI = true;
-    queue.advance(0.8);
+    ultraAims();
     EXPECT_EQ(game.aimPower, 100);
 }
 
@@ -190,7 +183,7 @@ TEST_F(AITurnTest, AnAimThatThePlayerTookOverIsNotReleasedByTheComputer) {
     game.redIsAI = false;
     press(2); // power, throw
     ASSERT_EQ(game.aimState, AimState::thrown);
-    balls("red").back()->body = nullptr; // over after the fewest ticks, half a second
+    balls("red").back()->body = nullptr; // not a ball that rolls: the throw is over after half a second
     settled();
     press();
     ASSERT_EQ(game.aimState, AimState::aimingAngle);

@@ -1,4 +1,4 @@
-// More time and smaller steps for the human thrower, and a match that waits.
+// More time and smaller steps for the human thrower.
 #include "tests/scenario/Match.h"
 
 namespace vorbel::test {
@@ -114,42 +114,6 @@ TEST_F(AimingHelpTest, TheComputersAimIsNotTakenBack) {
     ASSERT_EQ(game.aimState, AimState::aimingAngle);
     game.takeBack();
     EXPECT_EQ(game.aimState, AimState::aimingAngle);
-}
-
-TEST_F(AimingHelpTest, APausedMatchWaitsAndGoesOn) {
-    setPower();
-    game.pause();
-    ticks(1); // what was announced before
-    const double power = game.aimPower;
-    ticks(50);
-    EXPECT_EQ(game.aimPower, power);
-    game.resume();
-    ticks(2);
-    EXPECT_GT(game.aimPower, power);
-}
-
-TEST_F(AimingHelpTest, APausedComputerTakesItsTimeAnew) {
-    game.redIsAI = true;
-    queue.advance(0.7);
-    game.pause();
-    queue.advance(10);
-    EXPECT_EQ(game.aimState, AimState::idle);
-    game.resume();
-    queue.advance(0.79);
-    EXPECT_EQ(game.aimState, AimState::idle);
-    queue.advance(0.02);
-    EXPECT_EQ(game.aimState, AimState::aimingAngle);
-}
-
-TEST_F(AimingHelpTest, AMatchThatWasStoppedIsNotStartedByItsResumption) {
-    setPower();
-    game.stopAimingLoop();
-    game.pause();
-    game.resume();
-    ticks(1);
-    const double power = game.aimPower;
-    ticks(10);
-    EXPECT_EQ(game.aimPower, power);
 }
 
 } // namespace vorbel::test

@@ -44,17 +44,15 @@ TEST_F(AimingTest, ThePitchStaysBetweenTheGroundAndSixtyDegrees) {
 }
 
 TEST_F(AimingTest, AngleAndPitchMoveOnlyWhileTheAngleIsSet) {
-    const auto moveAll = [this] {
+    const auto expectThatNothingMoves = [this] {
         game.moveAimUp();
         game.moveAimRight();
+        EXPECT_EQ(game.aimPitch, 0);
+        EXPECT_EQ(game.aimAngle, 0);
     };
-    moveAll();
-    EXPECT_EQ(game.aimPitch, 0);
-    EXPECT_EQ(game.aimAngle, 0);
+    expectThatNothingMoves();
     aimAt(AimState::aimingPower);
-    moveAll();
-    EXPECT_EQ(game.aimPitch, 0);
-    EXPECT_EQ(game.aimAngle, 0);
+    expectThatNothingMoves();
 }
 
 TEST_F(AimingTest, ARampPlayerCannotRaiseTheThrow) {
@@ -231,25 +229,6 @@ TEST_F(AimingTest, AMatchWithoutAPointerCanBePlayed) {
     humanThrows(0, 30);
     settled();
     EXPECT_EQ(game.phase, GamePhase::playing);
-}
-
-TEST_F(AimingTest, EveryTickIsAnnouncedWhenItsWorkIsDone) {
-    aimAt(AimState::aimingPower);
-    state.aimPower = 50.0;
-    std::vector<double> seen;
-    Subscription watch = game.onTick([&] { seen.push_back(game.aimPower); });
-    ticks(2);
-    EXPECT_EQ(seen, (std::vector{50.6, 51.2}));
-    watch.cancel();
-    ticks(1);
-    EXPECT_EQ(seen.size(), 2U);
-}
-
-TEST_F(AimingTest, AStoppedLoopSwingsNothing) {
-    aimAt(AimState::aimingPower);
-    game.stopAimingLoop();
-    ticks(10);
-    EXPECT_EQ(game.aimPower, 10.0);
 }
 
 } // namespace vorbel::test
