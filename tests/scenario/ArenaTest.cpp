@@ -1,5 +1,6 @@
 // What stands in the arena, and that balls roll on it.
 #include "rules/BallModel.h"
+#include "tests/ExpectNear.h"
 #include "tests/scenario/Match.h"
 
 #include <algorithm>
@@ -14,10 +15,6 @@ protected:
     Scene empty;
     [[nodiscard]] std::size_t nodeCount() const { return empty.root->children().size(); }
     [[nodiscard]] const Node& node(std::size_t index) const { return *empty.root->children()[index]; }
-    static void expectNear(const Vec3& actual, const Vec3& expected) {
-        EXPECT_NEAR(glm::distance(actual, expected), 0, 1e-9)
-            << actual.x << ' ' << actual.y << ' ' << actual.z;
-    }
 };
 
 TEST_F(ArenaTest, TheSceneHasOneHiddenPointerAlongTheThrow) {

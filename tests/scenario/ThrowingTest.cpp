@@ -1,4 +1,5 @@
 // The waiting ball and its launch.
+#include "tests/ExpectNear.h"
 #include "tests/scenario/Match.h"
 
 #include <cmath>
@@ -17,11 +18,6 @@ protected:
         const Node::Ptr ball = game.activeBallNode();
         game.throwActiveBall();
         return *ball->body;
-    }
-    static void expectNear(const Vec3& actual, const Vec3& expected) {
-        EXPECT_NEAR(actual.x, expected.x, 1e-9);
-        EXPECT_NEAR(actual.y, expected.y, 1e-9);
-        EXPECT_NEAR(actual.z, expected.z, 1e-9);
     }
 };
 

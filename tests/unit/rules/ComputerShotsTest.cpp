@@ -1,10 +1,14 @@
 #include "rules/ComputerShots.h"
 
+#include "tests/ExpectNear.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 namespace vorbel {
+
+using test::expectNear;
 
 namespace {
 
@@ -13,12 +17,6 @@ constexpr Vec3 blueSpot{1, 0.035, -0.5};
 
 Vec3 at(double x, double z) {
     return {x, 0.035, z};
-}
-
-void expectNear(const Vec3& actual, const Vec3& expected) {
-    for (int axis = 0; axis < 3; ++axis) {
-        EXPECT_NEAR(actual[axis], expected[axis], 1e-9) << "axis " << axis;
-    }
 }
 
 } // namespace
@@ -125,7 +123,7 @@ TEST(ComputerShotsTest, TheFreeSpotIsTheOneFarthestFromTheBallsOfBothSides) {
 }
 
 TEST(ComputerShotsTest, OfEquallyFreeSpotsTheFirstTowardsTheRightIsTaken) {
-    // A ball on the jack: all twelve are equally far from it but for rounding; the ball straight above is not.
+    // One ball before the jack and one behind it: the places beside it are equally far from both.
     expectNear(freeSpotNearJack({{}, {at(0, -6.2), at(0, -5.8)}, {}}, at(0, -6)), at(0.12, -6));
 }
 

@@ -1,5 +1,7 @@
 #include "rules/Throw.h"
 
+#include "tests/ExpectNear.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,16 +10,7 @@
 namespace vorbel {
 
 using std::numbers::pi;
-
-namespace {
-
-void expectNear(const Vec3& actual, const Vec3& expected) {
-    for (int axis = 0; axis < 3; ++axis) {
-        EXPECT_NEAR(actual[axis], expected[axis], 1e-9) << "axis " << axis;
-    }
-}
-
-} // namespace
+using test::expectNear;
 
 TEST(ThrowTest, ABallLeavesAlongItsAimAndRolls) {
     struct {
