@@ -26,7 +26,7 @@ template <std::size_t keyCount>
     std::ranges::sort(names);
     return std::ranges::adjacent_find(names) == names.end();
 }
-static_assert(areDistinct(keys) && areDistinct(extraKeys), "a key is listed twice in Keys.h");
+static_assert(areDistinct(joined(keys, extraKeys)), "a key is listed twice in Keys.h");
 
 // The texts of one language, as its file lists them.
 struct LanguageTexts {
