@@ -2,11 +2,9 @@
 //
 // A new key: list it in `pageKeys`, OptionKeys.h or SpokenKeys.h and give it a text in every file of extra/,
 // options/ or spoken/. A key that ends in ".format" is a template; the code fills its placeholders "%@" from
-// left to right, so every language has them in the same number and order.
+// left to right, so every language has them in the same number and order. CONTRIBUTING.md says how a language
+// is added.
 //
-// A new language: a case in AppLanguage.h with its row in AppLanguage.cpp, files texts/CODE.h, extra/CODE.h,
-// options/CODE.h and spoken/CODE.h in the form of the English ones, and one include in the
-// Languages.h beside each of the last three, and one row in Texts.cpp and ExtraTexts.cpp.
 // Texts of `keys` that a language lacks are shown in English; those of `extraKeys` are complete. A key that
 // is unknown, given twice or out of order, an empty text, or a language listed twice does not compile.
 #pragma once

@@ -10,8 +10,8 @@
 
 namespace vorbel::L10n {
 
-// The text of the key in the language; where that language has none, the English one. It lives as long as the
-// program.
+// The text of the key in the language, or in English where that language has none; it lives as long as the
+// program does.
 [[nodiscard]] std::string_view t(TextKey key, AppLanguage language);
 
 // The same for a key from stored data. An unknown one shows itself: the result is then `name`, and lives as

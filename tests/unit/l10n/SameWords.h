@@ -1,6 +1,5 @@
-// Texts that a language truly shares with English, letter by letter. Everything
-// else that equals the English text was forgotten; a listed key whose text
-// differs is stale. Languages in other scripts share nothing but "AI".
+// Texts that a language truly shares with English, letter by letter. All else that equals the English text
+// was forgotten; a listed key whose text differs is stale. Other scripts share nothing but "AI".
 #pragma once
 
 #include "l10n/AppLanguage.h"
