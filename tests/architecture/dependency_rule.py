@@ -75,7 +75,7 @@ def allows(permitted, header):
 
 
 def target_of(root, file):
-    """The CMake target of a file of the platform; a header that stands alone belongs to the folder's first, its data."""
+    """The CMake target of a file of the platform; a header that stands alone belongs to the folder's first."""
     lists = root / file.parent / "CMakeLists.txt"
     found = TARGET.findall(lists.read_text()) if lists.is_file() else []
     compiled = {Path(name).stem: target for target, names in found for name in names.split()}

@@ -1,5 +1,6 @@
-"""The tree keeps the rule of dependency, the check of it notices each breach, and no source file is long."""
+"""The tree keeps the rule of dependency and its style, and the check of the rule notices each breach."""
 
+import re
 import subprocess
 import tempfile
 import unittest
@@ -9,7 +10,9 @@ from dependency_rule import complaints
 from include_graph import include_graph, tracked
 
 ROOT = Path(__file__).resolve().parents[2]
-LONGEST = 350  # lines, of any source file but the tables of texts
+LONGEST = 310  # lines, of any source file but the tables of texts
+TEST_CASE = re.compile(r"^(?:RC_GTEST_PROP|TEST(?:_[FP])?)\((.*)", re.MULTILINE)
+TEST_NAME = re.compile(r"\w+Test, [A-Z]\w+")  # TEST(FooTest, ABallOnTheLineIsIn)
 KINDS = {".h", ".cpp", ".qml", ".py", ".txt", ".cmake", ".frag", ".vert", ".glsl", ""}
 
 
@@ -21,12 +24,23 @@ def long_files():
                 yield f"{file}: {lines} lines"
 
 
+def misnamed_tests():
+    for file in tracked(ROOT):
+        cases = TEST_CASE.findall((ROOT / file).read_text()) if file.suffix == ".cpp" else []
+        if cases and not file.stem.endswith("Test"):
+            yield f"{file}: holds tests"
+        yield from (f"{file}: {case}" for case in cases if not TEST_NAME.match(case))
+
+
 class TheTree(unittest.TestCase):
     def test_keeps_the_rule_of_dependency(self):
         self.assert_nothing(complaints(ROOT))
 
     def test_has_no_long_files(self):
         self.assert_nothing(list(long_files()))
+
+    def test_names_its_tests_alike(self):
+        self.assert_nothing(list(misnamed_tests()))
 
     def assert_nothing(self, found):
         if found:
