@@ -21,7 +21,7 @@ public:
     // An empty folder: no pictures are taken. It is made when it does not exist.
     Demonstration(ContentView& view, MainQueue& queue, QQuickWindow& window, std::filesystem::path pictures);
 
-    // What the computer plays with: in the player's language, and without the career, which is the player's own.
+    // What the computer plays with: the player's language, but not the career, which is the player's own.
     [[nodiscard]] static MemoryDefaults guestDefaults(const UserDefaults& player);
 
 private:

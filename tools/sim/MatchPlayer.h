@@ -25,7 +25,7 @@ struct Throw {
     std::vector<Node::Ptr> balls{}; // all on the court, in the order of their throws, at their last places
 };
 
-// One match from its first throw to its result. The same pairing gives the same match, another seed another one.
+// One match from its first throw to its result. The same pairing gives the same match, another seed another.
 class MatchPlayer {
 public:
     using ThrowObserver = std::function<void(const Throw&, const GameLogic&)>;

@@ -1,4 +1,4 @@
-// The whole arena, node by node, against the lists beside this file: every shape, place, colour, light and body.
+// The whole arena against the lists beside this file: of every node its shape, place, colour, light and body.
 #include "scene/Arena.h"
 #include "scene/FlagDesigns.h"
 #include "scene/Stands.h"
