@@ -2,16 +2,16 @@
 #pragma once
 
 #include "app/command_line/CommandLine.h"
-#include "app/command_line/Demonstration.h"
 #include "app/command_line/Speed.h"
 #include "app/controller/ControllerInput.h"
+#include "app/demonstration/Demonstration.h"
 #include "app/diagnose/FrameRate.h"
 #include "app/session/ScreenSaver.h"
 #include "app/shell/NotificationCenter.h"
 #include "app/shell/QtWindowFrame.h"
 #include "app/shell/VorbelApp.h"
-#include "app/speech/GameVoice.h"
 #include "app/window/ContentView.h"
+#include "app/window/GameVoice.h"
 #include "platform/audio/SdlAudio.h"
 #include "platform/controllers/SdlControllers.h"
 #include "platform/runloop/QtMainQueue.h"

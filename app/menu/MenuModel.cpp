@@ -1,7 +1,7 @@
 #include "app/menu/MenuModel.h"
 
 #include "app/command_line/Version.h"
-#include "app/menu/OpenMenu.h"
+#include "app/screen/OpenMenu.h"
 #include "app/settings/PlayerSettings.h"
 #include "app/text/Fonts.h"
 #include "engine/GameLogic.h"

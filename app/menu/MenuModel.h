@@ -4,9 +4,9 @@
 #include "app/menu/MenuCareer.h"
 #include "app/menu/MenuChoices.h"
 #include "app/menu/MenuResult.h"
-#include "app/menu/MenuScreen.h"
 #include "app/menu/MenuTexts.h"
 #include "app/options/OptionsModel.h"
+#include "app/screen/MenuScreen.h"
 
 #include <QObject>
 #include <QUrl>

@@ -1,6 +1,6 @@
 #include "app/menu/MenuResult.h"
 
-#include "app/menu/OpenMenu.h"
+#include "app/screen/OpenMenu.h"
 #include "app/settings/PlayerSettings.h"
 #include "app/text/Texts.h"
 #include "career/Tournament.h"

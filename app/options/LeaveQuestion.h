@@ -1,7 +1,7 @@
 // Whether the player really wants to leave a match that is not over.
 #pragma once
 
-#include "app/menu/MenuScreen.h"
+#include "app/screen/MenuScreen.h"
 
 #include <QObject>
 #include <QString>

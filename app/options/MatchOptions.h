@@ -1,8 +1,8 @@
 // What the options change of a running match.
 #pragma once
 
-#include "app/menu/OpenMenu.h"
 #include "app/options/Options.h"
+#include "app/screen/OpenMenu.h"
 
 #include <QObject>
 

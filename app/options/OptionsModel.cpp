@@ -1,7 +1,7 @@
 #include "app/options/OptionsModel.h"
 
-#include "app/menu/OpenMenu.h"
 #include "app/options/Options.h"
+#include "app/screen/OpenMenu.h"
 #include "app/settings/PlayerSettings.h"
 #include "app/text/Texts.h"
 

@@ -1,7 +1,7 @@
 // The options as their screen lists them.
 #pragma once
 
-#include "app/menu/MenuScreen.h"
+#include "app/screen/MenuScreen.h"
 #include "l10n/AppLanguage.h"
 
 #include <QAbstractListModel>

@@ -1,6 +1,6 @@
 #include "app/options/SightOptions.h"
 
-#include "app/window/MatchChanges.h"
+#include "app/match/MatchChanges.h"
 #include "scene/Pointer.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 #include "app/session/ScreenSaver.h"
 
-#include "app/menu/OpenMenu.h"
-#include "app/window/MatchChanges.h"
+#include "app/match/MatchChanges.h"
+#include "app/screen/OpenMenu.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,6 +1,7 @@
 #include "app/window/ContentView.h"
 
 #include "app/shell/NotificationCenter.h"
+#include "scene/Pointer.h"
 
 #include <array>
 
@@ -67,7 +68,7 @@ void ContentView::refresh() {
 }
 
 void ContentView::updatePointer() {
-    if (const Node::Ptr pointer = gameLogic_.scene.root->findChild("pointer")) {
+    if (const Node::Ptr pointer = gameLogic_.scene.root->findChild(arena::pointerName)) {
         const auto [angle, pitch] = shownAim_;
         gameLogic_.scene.animateOrientation(pointer, rotationFromEuler({pitch, -angle, 0}),
                                             pointerTurnDuration);

@@ -1,6 +1,6 @@
 #include "app/window/Keyboard.h"
 
-#include "app/menu/OpenMenu.h"
+#include "app/screen/OpenMenu.h"
 #include "engine/GameLogic.h"
 
 namespace vorbel {

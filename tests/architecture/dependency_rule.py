@@ -4,6 +4,7 @@ complaints(root) reads every C++ file of the tree and returns one sentence for e
 """
 
 import re
+from graphlib import CycleError, TopologicalSorter
 from pathlib import Path
 
 from include_graph import headers_of, reach, sources
@@ -88,6 +89,20 @@ def may_see(root, file):
     return MAY_SEE[file.parts[0]] | wrapped
 
 
+def circles(includes):
+    """The rooms of app/ are one target, as their QML module is: that they stand in no circle is said here."""
+    below = {}
+    for file, headers in includes.items():
+        if file.parts[0] == "app":
+            below.setdefault(file.parent, set()).update(header.parent for header in headers)
+            below[file.parent].discard(file.parent)
+    try:
+        TopologicalSorter(below).prepare()
+    except CycleError as error:
+        return ["in a circle: " + " -> ".join(map(str, reversed(error.args[1])))]
+    return []
+
+
 def complaints(root):
     root = Path(root)
     files = sources(root)
@@ -118,6 +133,7 @@ def complaints(root):
             else:
                 found.append(f"{file}: includes {header}, which belongs to no library of the design")
 
+    found += circles(includes)
     for file in includes:
         for reached, way in reach(file, includes).items():
             for library in libraries.get(reached, set()) - permitted[file] if len(way) > 1 else ():

@@ -122,6 +122,12 @@ class TheCheck(unittest.TestCase):
         ):
             self.assert_refused(name, f'#include "{header}"\n', "arrows point down")
 
+    def test_refuses_rooms_of_the_program_that_include_each_other(self):
+        way = {"app/menu/A.h": '#include "app/hud/B.h"\n', "app/hud/B.h": '#include "app/text/C.h"\n', "app/text/C.h": ""}
+        self.assertEqual([], self.in_a_tree(complaints, way))
+        found = self.in_a_tree(complaints, {**way, "app/text/C.h": '#include "app/menu/D.h"\n', "app/menu/D.h": ""})
+        self.assertTrue(found[0].startswith("in a circle: "), found)
+
     def test_refuses_what_the_platform_keeps_to_itself(self):
         for name in ("scene/X.cpp", "engine/X.cpp"):
             for header in ("platform/render/Frame.h", "platform/physics/Shapes.h"):

@@ -1,4 +1,4 @@
-#include "app/speech/GameVoice.h"
+#include "app/window/GameVoice.h"
 
 #include "app/window/ContentView.h"
 

@@ -1,4 +1,4 @@
-#include "app/command_line/Demonstration.h"
+#include "app/demonstration/Demonstration.h"
 
 #include "app/command_line/Output.h"
 

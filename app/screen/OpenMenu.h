@@ -1,7 +1,7 @@
 // Which screen of the menu is open.
 #pragma once
 
-#include "app/menu/MenuScreen.h"
+#include "app/screen/MenuScreen.h"
 
 #include <QObject>
 

@@ -1,4 +1,4 @@
-#include "app/window/MatchChanges.h"
+#include "app/match/MatchChanges.h"
 
 #include <utility>
 
