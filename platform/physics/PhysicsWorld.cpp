@@ -35,6 +35,7 @@ private:
 
     Scene& scene_;
     SceneBodies bodies_;
+    RigidWorldTools tools_;
     std::unique_ptr<RigidWorld> world_; // after the bodies: it refers to them as long as it lives
     Vec3 gravity_{0};
 };
@@ -79,7 +80,7 @@ void PhysicsWorld::Impl::rebuild() {
     bodies.continueFrom(bodies_);
     world_ = nullptr;
     bodies_ = std::move(bodies);
-    world_ = std::make_unique<RigidWorld>();
+    world_ = std::make_unique<RigidWorld>(tools_);
     world_->setGravity(toBullet(gravity_));
     for (const auto& body : bodies_) {
         world_->addRigidBody(&body->rigid());

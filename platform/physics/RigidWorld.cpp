@@ -9,8 +9,7 @@ namespace {
 constexpr double contactDistance = 0.1;       // m; contacts are foreseen up to here
 constexpr double freeMotionTolerance = 1e-20; // (m/s)²
 
-// A dozen balls need far less than Bullet's default pools
-// of 4096 each, and the world is made anew at every throw.
+// A dozen balls need far less than Bullet's default pools of 4096 each.
 btDefaultCollisionConstructionInfo smallPools() {
     btDefaultCollisionConstructionInfo info;
     info.m_defaultMaxPersistentManifoldPoolSize = 64;
@@ -47,12 +46,15 @@ btPersistentManifold* ForeseeingDispatcher::getNewManifold(const btCollisionObje
     return manifold;
 }
 
-RigidWorldParts::RigidWorldParts() : configuration(smallPools()), dispatcher(&configuration) {
+RigidWorldTools::RigidWorldTools() : configuration(smallPools()), dispatcher(&configuration) {
     dispatcher.registerCollisionCreateFunc(SPHERE_SHAPE_PROXYTYPE, SPHERE_SHAPE_PROXYTYPE,
                                            &ballCollisionMaker);
 }
 
-RigidWorld::RigidWorld() : btDiscreteDynamicsWorld(&dispatcher, &broadphase, &solver, &configuration) {
+RigidWorld::RigidWorld(RigidWorldTools& tools)
+    : btDiscreteDynamicsWorld(&tools.dispatcher, &broadphase, &tools.solver, &tools.configuration),
+      tools_(tools) {
+    tools.solver.reset();
     configureSolver(getSolverInfo());
     setForceUpdateAllAabbs(false);
     getDispatchInfo().m_useContinuous = true;
@@ -68,7 +70,7 @@ double RigidWorld::advanceToNextImpact(double seconds, ContactListener& listener
     foreseeMoves(seconds);
     getDispatchInfo().m_timeStep = seconds;
     performDiscreteCollisionDetection();
-    const double part = stopAtNextImpact(dispatcher, seconds);
+    const double part = stopAtNextImpact(tools_.dispatcher, seconds);
     applyForces(part);
     calculateSimulationIslands();
     reportContacts(part, listener);
@@ -92,8 +94,8 @@ void RigidWorld::foreseeMoves(double seconds) {
 }
 
 void RigidWorld::reportContacts(double seconds, ContactListener& listener) {
-    for (int i = 0; i < dispatcher.getNumManifolds(); ++i) {
-        btPersistentManifold& manifold = *dispatcher.getManifoldByIndexInternal(i);
+    for (int i = 0; i < tools_.dispatcher.getNumManifolds(); ++i) {
+        btPersistentManifold& manifold = *tools_.dispatcher.getManifoldByIndexInternal(i);
         if (manifold.getBody0()->isActive() || manifold.getBody1()->isActive()) {
             listener.contactFound(manifold, seconds);
         }

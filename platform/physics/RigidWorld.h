@@ -14,18 +14,22 @@ public:
     btPersistentManifold* getNewManifold(const btCollisionObject* a, const btCollisionObject* b) override;
 };
 
-// What a Bullet world is made of; kept alive before and after it.
-struct RigidWorldParts {
-    RigidWorldParts();
+// What keeps nothing of a world once that is gone, and is dear to make: one world after another uses it.
+struct RigidWorldTools {
+    RigidWorldTools();
 
     BallCollision::Maker ballCollisionMaker;
     btDefaultCollisionConfiguration configuration;
     ForeseeingDispatcher dispatcher;
-    btDbvtBroadphase broadphase;
     btSequentialImpulseConstraintSolver solver;
 };
 
-class RigidWorld final : private RigidWorldParts, public btDiscreteDynamicsWorld {
+// Kept alive before and after Bullet's world.
+struct RigidWorldPlace {
+    btDbvtBroadphase broadphase;
+};
+
+class RigidWorld final : private RigidWorldPlace, public btDiscreteDynamicsWorld {
 public:
     // Called in every part of a sub-step, after finding the contacts and before changing velocities because
     // of them, for each pair of bodies near each other of which at least one is awake.
@@ -37,7 +41,8 @@ public:
         ~ContactListener() = default;
     };
 
-    RigidWorld();
+    // The tools must outlive the world, and serve no other one meanwhile.
+    explicit RigidWorld(RigidWorldTools& tools);
 
     // One sub-step, cut in parts where balls meet: each impact happens at its
     // own time. Bodies at rest (state ISLAND_SLEEPING) are left out until an
@@ -50,6 +55,8 @@ private:
     void reportContacts(double seconds, ContactListener& listener);
     void applyForces(double seconds);
     void moveBodies(double seconds);
+
+    RigidWorldTools& tools_;
 };
 
 } // namespace vorbel
