@@ -27,6 +27,7 @@ public:
 
 private:
     void takeOverChanges();
+    [[nodiscard]] bool isSetChanged(); // bodies that came, went or were replaced
     void rebuild();
     void applyGravity();
 
@@ -38,6 +39,10 @@ private:
     RigidWorldTools tools_;
     std::unique_ptr<RigidWorld> world_; // after the bodies: it refers to them as long as it lives
     Vec3 gravity_{0};
+
+    // When the scene's nodes were last looked at.
+    Node::Ptr root_;
+    std::uint64_t bodyChanges_ = 0;
 };
 
 void PhysicsWorld::Impl::step(double seconds) {
@@ -65,12 +70,22 @@ void PhysicsWorld::Impl::takeOverChanges() {
     if (isAnyMoved) {
         bodies_.wakeAll(); // it may have held another one
     }
-    if (!bodies_.areThoseOf(scene_.root->children())) {
+    if (isSetChanged()) {
         rebuild();
     }
     if (gravity_ != scene_.gravity) {
         applyGravity();
     }
+}
+
+bool PhysicsWorld::Impl::isSetChanged() {
+    const std::uint64_t changes = scene_.root->childBodyChanges();
+    if (root_ == scene_.root && bodyChanges_ == changes) {
+        return false;
+    }
+    root_ = scene_.root;
+    bodyChanges_ = changes;
+    return !bodies_.areThoseOf(root_->children());
 }
 
 // A new world whenever the set of bodies changes: what happens next then depends on the scene alone, and not

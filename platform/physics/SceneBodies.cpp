@@ -14,7 +14,6 @@ SceneBodies::SceneBodies(const std::vector<Node::Ptr>& nodes) {
     touches_ = BodyTouches(bodies_.size());
 }
 
-// Runs at every tick over all nodes, most of which have no body.
 bool SceneBodies::areThoseOf(const std::vector<Node::Ptr>& nodes) const {
     auto body = bodies_.begin();
     for (const Node::Ptr& node : nodes) {

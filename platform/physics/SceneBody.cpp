@@ -39,7 +39,7 @@ btRigidBody::btRigidBodyConstructionInfo describe(const Node& node, btCollisionS
 
 SceneBody::SceneBody(const Node::Ptr& node)
     : node_(node),
-      body_(node->body),
+      body_(node->body.pointer()),
       shape_(makeBodyShape(node->geometry)),
       rigid_(describe(*node, shape_.get())),
       pose_(node->pose()),

@@ -17,7 +17,9 @@ public:
     [[nodiscard]] btRigidBody& rigid() { return rigid_; }
     [[nodiscard]] const btRigidBody& rigid() const { return rigid_; }
     [[nodiscard]] bool isDynamic() const { return body_->type == PhysicsBody::Type::dynamic; }
-    [[nodiscard]] bool isOf(const Node& node) const { return node_.get() == &node && body_ == node.body; }
+    [[nodiscard]] bool isOf(const Node& node) const {
+        return node_.get() == &node && body_ == node.body.pointer();
+    }
     [[nodiscard]] bool isSameAs(const SceneBody& other) const {
         return node_ == other.node_ && body_ == other.body_;
     }

@@ -28,11 +28,14 @@ Pose Node::displayedPose(double fraction) const {
 }
 
 void Node::addChild(Ptr child) {
+    child->body.countIn(childBodyChanges_);
     children_.push_back(std::move(child));
+    ++*childBodyChanges_;
 }
 
 void Node::removeChild(const Node& child) {
     std::erase_if(children_, [&child](const Ptr& candidate) { return candidate.get() == &child; });
+    ++*childBodyChanges_;
 }
 
 Node::Ptr Node::findChild(std::string_view childName) const {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "math/Vector.h"
+#include "platform/scenegraph/BodySlot.h"
 #include "platform/scenegraph/Geometry.h"
 #include "platform/scenegraph/Light.h"
-#include "platform/scenegraph/PhysicsBody.h"
 
 #include <memory>
 #include <optional>
@@ -32,8 +32,8 @@ public:
     std::optional<Geometry> geometry;
     std::optional<Light> light;
     std::optional<Camera> camera;
-    std::shared_ptr<PhysicsBody> body; // replacing it swaps the body in the physics world at its next step
-    std::weak_ptr<Node> lookAtTarget;  // when set, the node's −z axis always points at the target
+    BodySlot body;                    // replacing it swaps the body in the physics world at its next step
+    std::weak_ptr<Node> lookAtTarget; // when set, the node's −z axis always points at the target
     Vec3 scale{1};
     double opacity = 1; // 0 hides the node, its children too
 
@@ -58,6 +58,9 @@ public:
     void addChild(Ptr child);
     void removeChild(const Node& child); // does nothing when it is not a child
 
+    // Grows whenever a child comes or goes, or the body of one is replaced.
+    [[nodiscard]] std::uint64_t childBodyChanges() const { return *childBodyChanges_; }
+
     // First node with that name below this one, depth first; null when there is none.
     [[nodiscard]] Ptr findChild(std::string_view childName) const;
 
@@ -65,6 +68,7 @@ private:
     Pose current_;
     Pose previous_;
     std::vector<Ptr> children_;
+    BodySlot::Count childBodyChanges_ = std::make_shared<std::uint64_t>(0);
 };
 
 } // namespace vorbel
