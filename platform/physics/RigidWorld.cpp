@@ -72,10 +72,9 @@ double RigidWorld::advanceToNextImpact(double seconds, ContactListener& listener
     performDiscreteCollisionDetection();
     const double part = stopAtNextImpact(tools_.dispatcher, seconds);
     applyForces(part);
-    calculateSimulationIslands();
+    findIslands();
     reportContacts(part, listener);
-    getSolverInfo().m_timeStep = part;
-    solveConstraints(getSolverInfo());
+    solve(part);
     moveBodies(part);
     return part;
 }
@@ -94,11 +93,67 @@ void RigidWorld::foreseeMoves(double seconds) {
 }
 
 void RigidWorld::reportContacts(double seconds, ContactListener& listener) {
-    for (int i = 0; i < tools_.dispatcher.getNumManifolds(); ++i) {
-        btPersistentManifold& manifold = *tools_.dispatcher.getManifoldByIndexInternal(i);
-        if (manifold.getBody0()->isActive() || manifold.getBody1()->isActive()) {
-            listener.contactFound(manifold, seconds);
+    for (int i = 0; i < near_.size(); ++i) {
+        listener.contactFound(*near_[i], seconds);
+    }
+}
+
+void RigidWorld::findAwake() {
+    awake_.resize(0);
+    for (int i = 0; i < m_nonStaticRigidBodies.size(); ++i) {
+        if (m_nonStaticRigidBodies[i]->isActive()) {
+            awake_.push_back(m_nonStaticRigidBodies[i]);
         }
+    }
+    near_.resize(0);
+    for (int i = 0; i < tools_.dispatcher.getNumManifolds(); ++i) {
+        btPersistentManifold* manifold = tools_.dispatcher.getManifoldByIndexInternal(i);
+        if (manifold->getBody0()->isActive() || manifold->getBody1()->isActive()) {
+            near_.push_back(manifold);
+        }
+    }
+}
+
+// Touching one thing at most, which cannot be pushed, and near no body that would have to wake.
+bool RigidWorld::isApart(const btCollisionObject& body) const {
+    int touched = 0;
+    for (int i = 0; i < near_.size(); ++i) {
+        const btPersistentManifold& manifold = *near_[i];
+        const btCollisionObject& a = *manifold.getBody0();
+        const btCollisionObject& b = *manifold.getBody1();
+        if (&a != &body && &b != &body) {
+            continue;
+        }
+        const btCollisionObject& other = &a == &body ? b : a;
+        const bool isTouching = manifold.getNumContacts() > 0;
+        if (!other.isStaticOrKinematicObject() && (isTouching || !other.isActive())) {
+            return false;
+        }
+        touched += isTouching ? 1 : 0;
+    }
+    return touched <= 1 && !body.isStaticOrKinematicObject();
+}
+
+// Bullet looks for islands of bodies that hold each other, wakes them and sorts their contacts. While balls roll
+// each by itself, as they do most of the time, there is nothing to find, and no order that could matter.
+void RigidWorld::findIslands() {
+    findAwake();
+    areAllApart_ = awake_.size() > 0;
+    for (int i = 0; i < awake_.size() && areAllApart_; ++i) {
+        areAllApart_ = isApart(*awake_[i]);
+    }
+    if (!areAllApart_) {
+        calculateSimulationIslands();
+    }
+}
+
+void RigidWorld::solve(double seconds) {
+    getSolverInfo().m_timeStep = seconds;
+    if (areAllApart_) {
+        tools_.solver.solveGroup(&awake_[0], awake_.size(), near_.size() > 0 ? &near_[0] : nullptr,
+                                 near_.size(), nullptr, 0, getSolverInfo(), nullptr, &tools_.dispatcher);
+    } else {
+        solveConstraints(getSolverInfo());
     }
 }
 
@@ -108,7 +163,7 @@ void RigidWorld::applyForces(double seconds) {
         btRigidBody& body = *m_nonStaticRigidBodies[i];
         if (body.isActive()) {
             body.applyGravity();
-            body.applyDamping(seconds / 2);
+            damping_.apply(body, seconds / 2);
             body.setInterpolationLinearVelocity(body.getLinearVelocity()); // kept for comparison
         }
     }
@@ -121,7 +176,7 @@ void RigidWorld::moveBodies(double seconds) {
             btTransform next;
             body.predictIntegratedTransform(seconds, next);
             next.getOrigin() += moveCorrection(body, seconds);
-            body.applyDamping(seconds / 2);
+            damping_.apply(body, seconds / 2);
             body.proceedToTransform(next);
             body.clearForces();
         }

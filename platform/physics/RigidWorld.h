@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/physics/BallCollision.h"
+#include "platform/physics/Damping.h"
 
 #include <btBulletDynamicsCommon.h>
 
@@ -53,10 +54,20 @@ private:
     double advanceToNextImpact(double seconds, ContactListener& listener); // returns the time it took
     void foreseeMoves(double seconds);
     void reportContacts(double seconds, ContactListener& listener);
+    void findAwake();
+    [[nodiscard]] bool isApart(const btCollisionObject& body) const;
+    void findIslands();
+    void solve(double seconds);
     void applyForces(double seconds);
     void moveBodies(double seconds);
 
     RigidWorldTools& tools_;
+    Damping damping_;
+
+    // In this part of a sub-step.
+    btCollisionObjectArray awake_;
+    btManifoldArray near_; // of two bodies near each other of which at least one is awake
+    bool areAllApart_ = false;
 };
 
 } // namespace vorbel

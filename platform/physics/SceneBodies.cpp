@@ -66,12 +66,19 @@ bool SceneBodies::beginsTouch(const btPersistentManifold& manifold, double gap, 
     return touches_.begins(indexOf(*manifold.getBody0()), indexOf(*manifold.getBody1()), gap, approach);
 }
 
+// Two that rest do not part.
 void SceneBodies::endTouchesOfSeparated() {
     for (std::size_t a = 0; a < bodies_.size(); ++a) {
-        for (std::size_t b = a + 1; b < bodies_.size(); ++b) {
-            if (touches_.isTouching(a, b) && !bodies_[a]->isNear(*bodies_[b])) {
-                touches_.set(a, b, false);
-            }
+        if (bodies_[a]->isAwake()) {
+            endTouchesOfSeparated(a);
+        }
+    }
+}
+
+void SceneBodies::endTouchesOfSeparated(std::size_t a) {
+    for (std::size_t b = 0; b < bodies_.size(); ++b) {
+        if (a != b && touches_.isTouching(a, b) && !bodies_[a]->isNear(*bodies_[b])) {
+            touches_.set(a, b, false);
         }
     }
 }

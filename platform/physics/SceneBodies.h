@@ -39,6 +39,7 @@ private:
     // The number of bodies when it is not there.
     [[nodiscard]] std::size_t find(const SceneBody& wanted) const;
     void wakeNear(const SceneBody& place);
+    void endTouchesOfSeparated(std::size_t a);
 
     std::vector<std::unique_ptr<SceneBody>> bodies_; // Bullet keeps their addresses
     BodyTouches touches_;
