@@ -5,10 +5,7 @@
 namespace vorbel {
 
 void Clockwork::start(std::function<void()> work) {
-    work_ = [this, work = std::move(work)] {
-        work();
-        ticks_.tell();
-    };
+    work_ = std::make_shared<const std::function<void()>>(std::move(work));
     runTicks();
 }
 
@@ -19,8 +16,14 @@ void Clockwork::stop() {
 
 void Clockwork::runTicks() {
     if (work_ && !paused_) {
-        timer_ = queue_.repeat(tickPeriod, [this, tick = work_] { queue_.post(lifetime_.whileAlive(tick)); });
+        timer_ = queue_.repeat(
+            tickPeriod, [this] { queue_.post(lifetime_.whileAlive([this, work = work_] { tick(*work); })); });
     }
+}
+
+void Clockwork::tick(const std::function<void()>& work) const {
+    work();
+    ticks_.tell();
 }
 
 void Clockwork::schedule(Step step, double seconds, std::function<void()> work) {

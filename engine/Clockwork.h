@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 namespace vorbel {
 
@@ -43,10 +44,11 @@ private:
     };
 
     void runTicks();
+    void tick(const std::function<void()>& work) const;
     void wait(); // for the scheduled step
 
     MainQueue& queue_;
-    std::function<void()> work_; // of a tick; none while it is stopped
+    std::shared_ptr<const std::function<void()>> work_; // of a tick; none while it is stopped
     bool paused_ = false;
     Subscription timer_;
     Observers<> ticks_;

@@ -1,6 +1,8 @@
 #include "platform/runloop/VirtualQueue.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace vorbel {
 
@@ -31,10 +33,12 @@ Subscription VirtualQueue::repeat(double period, Task task) {
 
 void VirtualQueue::advance(double seconds) {
     const Microseconds end = now_ + toMicroseconds(seconds);
-    while (!pending_.empty() && pending_.begin()->first <= end) {
-        auto next = pending_.extract(pending_.begin());
-        now_ = next.key();
-        next.mapped()();
+    while (!pending_.empty() && pending_.front().due <= end) {
+        std::ranges::pop_heap(pending_, isLater);
+        const Pending next = std::move(pending_.back());
+        pending_.pop_back();
+        now_ = next.due;
+        next.task();
     }
     now_ = end;
 }
@@ -43,8 +47,13 @@ double VirtualQueue::now() const {
     return static_cast<double>(now_) / microsecondsPerSecond;
 }
 
+bool VirtualQueue::isLater(const Pending& a, const Pending& b) {
+    return a.due != b.due ? a.due > b.due : a.order > b.order;
+}
+
 void VirtualQueue::schedule(Microseconds due, Task task) {
-    pending_.emplace(due, std::move(task));
+    pending_.push_back({due, posted_++, std::move(task)});
+    std::ranges::push_heap(pending_, isLater);
 }
 
 void VirtualQueue::scheduleRepeat(Microseconds due, Microseconds period, std::weak_ptr<Task> task) {

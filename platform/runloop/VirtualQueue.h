@@ -4,8 +4,8 @@
 #include "platform/runloop/MainQueue.h"
 
 #include <cstdint>
-#include <map>
 #include <memory>
+#include <vector>
 
 namespace vorbel {
 
@@ -27,10 +27,18 @@ private:
     // 0.02 s and a delay of 0.8 s are due at the same instant.
     using Microseconds = std::int64_t;
 
+    struct Pending {
+        Microseconds due;
+        std::uint64_t order; // of posting
+        Task task;
+    };
+    static bool isLater(const Pending& a, const Pending& b);
+
     void schedule(Microseconds due, Task task);
     void scheduleRepeat(Microseconds due, Microseconds period, std::weak_ptr<Task> task);
 
-    std::multimap<Microseconds, Task> pending_;
+    std::vector<Pending> pending_; // a heap: what is due next lies in front
+    std::uint64_t posted_ = 0;
     Microseconds now_ = 0;
 };
 
