@@ -37,6 +37,17 @@ btVector3 moveCorrection(const btRigidBody& body, double seconds) {
     return isFree ? gained * (-seconds / 2) : btVector3(0, 0, 0);
 }
 
+// Most pairs are balls at rest and the floor below them. Bullet finds that out too, but only after looking up the
+// rules of collision for the two.
+void meetUnlessAsleep(btBroadphasePair& pair, btCollisionDispatcher& dispatcher,
+                      const btDispatcherInfo& info) {
+    const auto* a = static_cast<const btCollisionObject*>(pair.m_pProxy0->m_clientObject);
+    const auto* b = static_cast<const btCollisionObject*>(pair.m_pProxy1->m_clientObject);
+    if (a->isActive() || b->isActive()) {
+        btCollisionDispatcher::defaultNearCallback(pair, dispatcher, info);
+    }
+}
+
 } // namespace
 
 btPersistentManifold* ForeseeingDispatcher::getNewManifold(const btCollisionObject* a,
@@ -47,6 +58,7 @@ btPersistentManifold* ForeseeingDispatcher::getNewManifold(const btCollisionObje
 }
 
 RigidWorldTools::RigidWorldTools() : configuration(smallPools()), dispatcher(&configuration) {
+    dispatcher.setNearCallback(meetUnlessAsleep);
     dispatcher.registerCollisionCreateFunc(SPHERE_SHAPE_PROXYTYPE, SPHERE_SHAPE_PROXYTYPE,
                                            &ballCollisionMaker);
 }

@@ -23,6 +23,21 @@ TEST(RestingBallTest, IsNotMovingAndHasNoVelocity) {
     EXPECT_LT(glm::distance(ball->position(), frozenAt), 1e-6);
 }
 
+// Bodies that are apart are not searched for others that they hold; two that meet must be.
+TEST(RestingBallTest, IsWokenThroughTheOneThatIsStruckWhileAnotherRollsApart) {
+    PhysicsCourt court;
+    const auto struck = court.addBall({0, restHeight, -3});
+    const auto behind = court.addBall({0, restHeight, -3.1});
+    court.launch({0, restHeight, -2}, {0, 0, -2});
+    const auto apart = court.launch({2, restHeight, -1}, {0, 0, -2});
+    court.run(20);
+    ASSERT_FALSE(struck->isMoving());
+    ASSERT_FALSE(behind->isMoving());
+    court.run(50);
+    EXPECT_LT(behind->position().z, -3.2);
+    EXPECT_NEAR(apart->body->velocity.z, -2 * std::exp(-dampingRate * 70 * tick), 1e-6);
+}
+
 TEST(RestingBallTest, StaysWhereItIsToTheLastBit) {
     PhysicsCourt court;
     const auto ball = court.addBall({0.3, restHeight, -3});

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 #include <numbers>
+#include <utility>
 
 namespace vorbel {
 
@@ -29,6 +31,27 @@ TEST(NodeTest, ChildrenKeepTheirOrderAndAreFoundByNameAtAnyDepth) {
     EXPECT_EQ(root.findChild("wanted"), later);
     root.removeChild(*parent);
     EXPECT_EQ(root.children().size(), 1U);
+}
+
+TEST(NodeTest, CountsWhatMayChangeTheBodiesOfItsChildren) {
+    Node root;
+    const auto ball = std::make_shared<Node>();
+    auto countsOn = [&root, former = root.childBodyChanges()]() mutable {
+        return std::exchange(former, root.childBodyChanges()) < root.childBodyChanges();
+    };
+    root.addChild(ball);
+    EXPECT_TRUE(countsOn());
+    ball->body = std::make_shared<PhysicsBody>();
+    EXPECT_TRUE(countsOn());
+    ball->body = std::make_shared<PhysicsBody>();
+    EXPECT_TRUE(countsOn());
+    ball->body->velocity = {1, 0, 0};
+    ball->setPosition({1, 0, 0});
+    EXPECT_FALSE(countsOn());
+    ball->body = nullptr;
+    EXPECT_TRUE(countsOn());
+    root.removeChild(*ball);
+    EXPECT_TRUE(countsOn());
 }
 
 TEST(NodeTest, APlacedNodeJumps) {
