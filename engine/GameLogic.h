@@ -95,6 +95,10 @@ public:
     [[nodiscard]] Subscription onTick(std::function<void()> observer) {
         return clock_.onTick(std::move(observer));
     }
+    // Whether that tick moved what is seen: a ball, or the pointer.
+    [[nodiscard]] bool isAnythingMoving() const {
+        return physicsWorld_.isAnythingMoving() || scene.isAnythingTurning();
+    }
     void updateAiming(); // one tick of the rules, without physics
     void moveAimLeft();  // the four aiming keys act only while a human sets the angle
     void moveAimRight();

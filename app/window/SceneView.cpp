@@ -72,7 +72,7 @@ void SceneView::matchTicked() {
             std::lerp(tickInterval_, std::min(measured, 2 * GameLogic::tickPeriod), intervalSmoothing);
     }
     sinceTick_.start();
-    const bool movedBefore = std::exchange(moved_, sceneMoves());
+    const bool movedBefore = std::exchange(moved_, view_->gameLogic().isAnythingMoving());
     if (moved_ || movedBefore) {
         requestFrame(); // once more after the last movement: to show where it ended
     }
@@ -85,10 +85,6 @@ void SceneView::requestFrame() {
     if (pacer_) {
         pacer_->request();
     }
-}
-
-bool SceneView::sceneMoves() {
-    return std::ranges::any_of(view_->gameLogic().scene.root->children(), &Node::isMoving);
 }
 
 double SceneView::tickFraction() const {

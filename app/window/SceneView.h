@@ -54,7 +54,6 @@ private:
     void attach(QQuickWindow& window);
     void matchTicked();
     void requestFrame();
-    [[nodiscard]] bool sceneMoves();
     [[nodiscard]] double tickFraction() const;
     void report(const QString& problem);
     void reportLater(const std::string& problem);

@@ -22,6 +22,7 @@ public:
     explicit Impl(Scene& scene) : scene_(scene) {}
 
     void step(double seconds);
+    [[nodiscard]] bool isAnythingMoving() const;
 
     ContactBegan contactBegan;
 
@@ -57,6 +58,11 @@ void PhysicsWorld::Impl::step(double seconds) {
     for (const auto& body : bodies_) {
         body->writeBack();
     }
+}
+
+bool PhysicsWorld::Impl::isAnythingMoving() const {
+    return std::any_of(bodies_.begin(), bodies_.end(),
+                       [](const auto& body) { return body->node().isMoving(); });
 }
 
 void PhysicsWorld::Impl::takeOverChanges() {
@@ -142,6 +148,9 @@ void PhysicsWorld::setContactDelegate(ContactBegan delegate) {
 }
 void PhysicsWorld::step(double seconds) {
     impl_->step(seconds);
+}
+bool PhysicsWorld::isAnythingMoving() const {
+    return impl_->isAnythingMoving();
 }
 
 } // namespace vorbel

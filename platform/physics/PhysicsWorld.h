@@ -28,6 +28,9 @@ public:
     // Same scene, same calls: bit-identical results.
     void step(double seconds);
 
+    // Whether a body has moved in the last step.
+    [[nodiscard]] bool isAnythingMoving() const;
+
 private:
     class Impl;
     std::unique_ptr<Impl> impl_;

@@ -23,4 +23,11 @@ void Scene::advanceAnimations(double seconds) {
     });
 }
 
+bool Scene::isAnythingTurning() const {
+    return std::ranges::any_of(turns_, [](const Turn& turn) {
+        const Node::Ptr node = turn.node.lock();
+        return node && node->isMoving();
+    });
+}
+
 } // namespace vorbel

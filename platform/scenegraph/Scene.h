@@ -17,6 +17,7 @@ public:
     // the first. Time passes only in advanceAnimations.
     void animateOrientation(const Node::Ptr& node, const Quat& target, double seconds);
     void advanceAnimations(double seconds);
+    [[nodiscard]] bool isAnythingTurning() const; // between the last tick and the one before
 
 private:
     struct Turn {

@@ -14,11 +14,13 @@ TEST(RestingBallTest, IsNotMovingAndHasNoVelocity) {
     const auto ball = court.launch({0, restHeight, -3}, {0, 0, -1});
     court.run(10);
     EXPECT_TRUE(ball->isMoving());
+    EXPECT_TRUE(court.world.isAnythingMoving());
     ball->body->velocity = Vec3(0);
     ball->body->angularVelocity = Vec3(0);
     const Vec3 frozenAt = ball->position();
     court.run(3);
     EXPECT_FALSE(ball->isMoving());
+    EXPECT_FALSE(court.world.isAnythingMoving());
     EXPECT_EQ(ball->body->velocity, Vec3(0));
     EXPECT_LT(glm::distance(ball->position(), frozenAt), 1e-6);
 }

@@ -90,10 +90,12 @@ TEST(SceneTest, AnAnimatedNodeTurnsWithinTheTime) {
     scene.advanceAnimations(0.05);
     expectNear(node->orientation() * Vec3(1, 0, 0), {std::sqrt(0.5), 0, -std::sqrt(0.5)});
     EXPECT_TRUE(node->isMoving());
+    EXPECT_TRUE(scene.isAnythingTurning());
     scene.advanceAnimations(0.05);
     expectNear(node->orientation() * Vec3(1, 0, 0), {0, 0, -1});
     scene.advanceAnimations(0.05);
     EXPECT_FALSE(node->isMoving());
+    EXPECT_FALSE(scene.isAnythingTurning());
 }
 
 TEST(SceneTest, ANewAnimationReplacesTheFormerOne) {
