@@ -7,6 +7,7 @@
 #include "platform/controllers/ControllerNames.h"
 #include "platform/render/DriverFacts.h"
 #include "platform/resources/Resources.h"
+#include "platform/speech/SpeechFacts.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -124,7 +125,8 @@ std::string diagnosis(const Resources& resources, const Folders& folders) {
            line("System", system()) +
            line("Desktop",
                 environment("XDG_CURRENT_DESKTOP") + ", session " + environment("XDG_SESSION_TYPE")) +
-           line("Driver", driverFacts()) + screens() + line("Sound", soundFacts()) + controllers() +
+           line("Driver", driverFacts()) + screens() + line("Sound", soundFacts()) +
+           line("Speech", speechFacts()) + controllers() +
            line("Settings", withoutName(folders.settings) + ", " + accessTo(folders.settings)) +
            line("State", withoutName(folders.state) + ", " + accessTo(folders.state)) +
            line("Log", logFacts(folders.state)) + line("Resources", foundResources(resources)) + "Fonts:\n" +

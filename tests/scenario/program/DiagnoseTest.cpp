@@ -32,8 +32,8 @@ const QString frames = QStringLiteral("Frames a second");
 
 TEST(DiagnoseTest, ItTellsOfEverythingThatAReportNeeds) {
     const QString told = page();
-    for (const char* name : {"VORBEL", "Toolkit", "System", "Desktop", "Driver", "Screen", "Sound",
-                             "Settings", "State", "Log", "Resources"}) {
+    for (const char* name : {"VORBEL", "Toolkit", "System", "Desktop", "Driver", "Screen", "Sound", "Speech",
+                             "Controllers", "Settings", "State", "Log", "Resources"}) {
         EXPECT_FALSE(fact(told, QString::fromLatin1(name)).empty());
     }
     EXPECT_EQ(told.count(QStringLiteral("Noto Sans")), 20) << "a font for each language";
@@ -61,6 +61,13 @@ TEST(DiagnoseTest, WithoutASoundDeviceItSaysSo) {
     const std::string sound = fact(page({{QStringLiteral("SDL_AUDIODRIVER"), QStringLiteral("none-such")}}),
                                    QStringLiteral("Sound"));
     EXPECT_TRUE(sound.ends_with("no device is reached")) << sound;
+}
+
+TEST(DiagnoseTest, WithoutASpeechServiceItSaysSo) {
+    const std::string speech =
+        fact(page({{QStringLiteral("SPEECHD_ADDRESS"), QStringLiteral("unix_socket:/nowhere")}}),
+             QStringLiteral("Speech"));
+    EXPECT_TRUE(speech.starts_with("the service does not run")) << speech;
 }
 
 TEST(DiagnoseTest, WithoutOpenGlItSaysSoAndWhatWasMeasured) {
