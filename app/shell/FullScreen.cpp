@@ -51,8 +51,15 @@ void FullScreen::leave(WindowFrame& window) {
 }
 
 void FullScreen::followScreen(WindowFrame& window) const {
-    if (const QRect screen = window.screen(); isOn() && !screen.isNull()) {
+    const QRect screen = window.screen();
+    if (screen.isNull()) {
+        return;
+    }
+    if (isOn()) {
         window.setFrame(screen);
+    } else if (const QRect kept = keptInReach(window.frame(), window.screens(), screen);
+               kept != window.frame() && window.isShown() && window.style().states == Qt::WindowNoState) {
+        window.setFrame(kept);
     }
 }
 

@@ -16,7 +16,8 @@ public:
     // that is not shown, and on entering without a screen, it does nothing.
     void toggle(WindowFrame* window, bool exitOnly);
 
-    // While it is on: covers the screen again, after that became another one or changed its size.
+    // After the screen became another one or changed its size: covers it again while full screen is on, else keeps the
+    // window in reach, whose screen may be gone. A maximised window is left to the desktop.
     void followScreen(WindowFrame& window) const;
 
 private:

@@ -152,6 +152,20 @@ TEST_F(ShellFullScreenTest, FollowsTheScreenWhileOnAndOnlyThen) {
     EXPECT_EQ(window.ownFrame, laptop);
 }
 
+TEST_F(ShellFullScreenTest, AWindowWhoseScreenWasRemovedComesWholeToTheRemainingOne) {
+    window.ownFrame = QRect(2500, 300, 1300, 900);
+    window.shown = false;
+    fullScreen.followScreen(window);
+    window.shown = true;
+    window.ownStyle.states = Qt::WindowMaximized;
+    fullScreen.followScreen(window);
+    EXPECT_EQ(window.changes, 0) << "hidden, or for the desktop to place";
+    window.ownStyle.states = Qt::WindowNoState;
+    fullScreen.followScreen(window);
+    EXPECT_TRUE(laptop.contains(window.ownFrame));
+    EXPECT_EQ(window.ownFrame.size(), QSize(1300, 900));
+}
+
 TEST(ShellReachTest, AFramePartlyOutsideStaysWhereThePlayerPutIt) {
     for (const QPoint offset : {QPoint(-1000, 200), QPoint(1800, 1000), QPoint(0, -20)}) {
         const QRect frame(offset, QSize(1200, 800));
