@@ -50,6 +50,19 @@ private:
     HeldKeys heldKeys_;
 };
 
+// The game takes no text, so it needs no more than what the toolkit takes on X11 anyway. On a Wayland desktop without a
+// keyboard, Qt 6.4 crashes in the code that would ask the desktop for an input method.
+void doWithoutInputMethod() {
+    if (qEnvironmentVariableIsEmpty("QT_IM_MODULE")) {
+        qputenv("QT_IM_MODULE", "compose");
+    }
+}
+
+// By which the desktop finds the game's entry in its menu. In a Flatpak the entry has the Flatpak's name.
+QString entryName() {
+    return qEnvironmentVariable("FLATPAK_ID", QStringLiteral("vorbel"));
+}
+
 int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     chooseGraphics();
     return WindowedGame(application, commandLine).run();
@@ -76,13 +89,14 @@ int runApplication(int argc, char** argv, const CommandLine& commandLine) {
     if (diagnose) {
         allowNoDisplay();
     }
+    doWithoutInputMethod();
     std::optional<DisplayGuard> guard(std::in_place);
     int programNameOnly = std::min(argc, 1);
     KeyJudgingApplication application(programNameOnly, argv);
     guard.reset();
     QGuiApplication::setApplicationName(QStringLiteral("vorbel"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("VORBEL"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("vorbel"));
+    QGuiApplication::setDesktopFileName(entryName());
     prepareFonts();
     const Termination termination;
     if (diagnose) {
