@@ -10,10 +10,17 @@ bool GameLogic::computerMayThrow() const {
 }
 
 void GameLogic::triggerAIIfNeeded() {
-    constexpr double pause = 0.8; // s
     if (computerMayThrow() && clock_.scheduled() == Clockwork::Step::none) {
-        clock_.schedule(Clockwork::Step::aim, pause, [this] { performAITurn(); });
+        scheduleAITurn();
     }
+}
+
+void GameLogic::scheduleAITurn() {
+    constexpr double pause = 0.8; // s
+    clock_.schedule(Clockwork::Step::aim, pause, [this] {
+        tell(MatchAction::Kind::step);
+        performAITurn();
+    });
 }
 
 // A side that is given to the computer while its player is aiming: the computer starts the throw anew.
@@ -49,6 +56,7 @@ void GameLogic::performAITurn() {
     message = messages::aiAiming(language, currentTurn);
     balls_.showPointer(true);
     clock_.schedule(Clockwork::Step::release, aimShown, [this] {
+        tell(MatchAction::Kind::step);
         if (aimState == AimState::aimingAngle) {
             beginThrow();
             releaseBall();

@@ -49,17 +49,20 @@ bool GameLogic::humanSetsAngle() const {
 
 void GameLogic::turnAim(double angle) {
     if (humanSetsAngle()) {
+        tell(MatchAction::Kind::turn, angle);
         state_.aimAngle = aim::clampAngle(aimAngle + angle);
     }
 }
 
 void GameLogic::raiseAim(double angle) {
     if (humanSetsAngle() && aim::mayRaise(playerClass)) {
+        tell(MatchAction::Kind::raise, angle);
         state_.aimPitch = aim::clampPitch(aimPitch + angle);
     }
 }
 
 void GameLogic::processInput() {
+    tell(MatchAction::Kind::press);
     if (phase == GamePhase::gameOver) {
         tournamentActive ? advanceTournament() : resetMatch();
     } else if (phase == GamePhase::endOver) {

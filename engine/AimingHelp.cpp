@@ -7,7 +7,10 @@
 namespace vorbel {
 
 void GameLogic::setPowerPace(double pace) {
-    state_.powerPace = std::clamp(pace, 0.0, 1.0);
+    if (pace != state_.powerPace) {
+        tell(MatchAction::Kind::pace, pace);
+        state_.powerPace = std::clamp(pace, 0.0, 1.0);
+    }
 }
 
 bool GameLogic::humanSetsPower() const {
@@ -16,6 +19,7 @@ bool GameLogic::humanSetsPower() const {
 
 void GameLogic::changePower(double percent) {
     if (humanSetsPower()) {
+        tell(MatchAction::Kind::power, percent);
         state_.aimPower = std::clamp(aimPower + percent, aim::lowestPower, aim::highestPower);
     }
 }
@@ -24,6 +28,7 @@ void GameLogic::takeBack() {
     if (isCurrentTurnAI()) {
         return;
     }
+    tell(MatchAction::Kind::takeBack);
     if (aimState == AimState::aimingPower) {
         state_.aimState = AimState::aimingAngle;
         state_.aimPower = aim::startPower;

@@ -7,7 +7,9 @@
 #include "engine/ArenaBuilders.h"
 #include "engine/Clockwork.h"
 #include "engine/CourtBalls.h"
+#include "engine/MatchAction.h"
 #include "engine/MatchSounds.h"
+#include "engine/MatchStart.h"
 #include "engine/MatchState.h"
 #include "l10n/AppLanguage.h"
 #include "l10n/BocciaClass.h"
@@ -158,6 +160,19 @@ public:
     [[nodiscard]] Vec3 freeSpotNearJack(const Vec3& jack) const;
     [[nodiscard]] Vec3 extendTarget(const Vec3& target, double beyondBy) const;
 
+    // --- engine/MatchStart.cpp: for who takes a match down, and plays it again
+
+    [[nodiscard]] MatchStart start() const;   // as it stands, before the first action of a match
+    void beginMatch(const MatchStart& start); // anew, whatever was before
+    // Calls the observer when a match has been begun anew, the first one not: that begins with this object.
+    [[nodiscard]] Subscription onMatchBegan(std::function<void()> observer) {
+        return beginnings_.add(std::move(observer));
+    }
+    // Calls the observer before each action. What else is written by players are the published values above.
+    [[nodiscard]] Subscription onAction(std::function<void(const MatchAction&)> observer) {
+        return actions_.add(std::move(observer));
+    }
+
     // --- engine/MatchSounds.cpp
 
     void startCrowdNoise() { sounds_.startCrowdNoise(); }
@@ -166,6 +181,8 @@ private:
     friend class MatchSetup; // the tests' door: puts a match into any position
 
     void tick();
+    void tell(MatchAction::Kind kind, double by = 0) const { actions_.tell({kind, by}); }
+    void scheduleAITurn();
     [[nodiscard]] bool humanSetsAngle() const;
     void advanceHumanThrow();
     [[nodiscard]] bool powerIsSetByHand() const { return state_.powerPace == 0; }
@@ -184,6 +201,8 @@ private:
     CourtBalls balls_;
     MatchSounds sounds_;
     Clockwork clock_;
+    Observers<> beginnings_;
+    Observers<MatchAction> actions_;
     Lifetime lifetime_;
 };
 

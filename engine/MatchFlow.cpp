@@ -59,6 +59,7 @@ void GameLogic::resetMatch() {
     state_.currentEnd = 1;
     clearField();
     startNewEnd();
+    beginnings_.tell();
 }
 
 std::string GameLogic::matchWinnerTitle() const {

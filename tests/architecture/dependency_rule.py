@@ -22,7 +22,7 @@ PLATFORM_DATA = {
     "platform/store",
 }
 GAME = {"engine", "scene", "career", "rules", "l10n", "math"}
-PROGRAM = GAME | {"app", "narration", "platform"}
+PROGRAM = GAME | {"app", "narration", "platform", "recording"}
 
 # What the files of each top folder may include of this project besides their own: folders, or single headers.
 MAY_INCLUDE = {
@@ -34,8 +34,9 @@ MAY_INCLUDE = {
     "scene": {"math", "rules", "l10n", "platform/random", "platform/scenegraph"},
     "career": {"rules", "l10n"},
     "engine": GAME | PLATFORM_DATA | {"platform/physics/PhysicsWorld.h"},
+    "recording": GAME | PLATFORM_DATA,
     "app": PROGRAM,
-    "tools": GAME | {"platform"},
+    "tools": GAME | {"platform", "recording"},
     "bench": PROGRAM | {"tools", "tests"},
     "tests": PROGRAM | {"tools"},
 }
@@ -51,6 +52,7 @@ MAY_SEE = {
     "scene": {"GLM"},
     "career": {"GLM", "nlohmann-json"},
     "engine": {"GLM"},
+    "recording": {"GLM", "nlohmann-json"},
     "app": {"GLM", "POSIX", "Qt"},
     "tools": {"GLM", "POSIX"},
     "bench": TESTING,

@@ -70,6 +70,7 @@ class TheCheck(unittest.TestCase):
         "career/Diary.h": "",
         "career/Diary.cpp": '#include "rules/Points.h"\n#include <nlohmann/json.hpp>\n',
         "engine/Game.h": '#include "scene/Court.h"\n#include "platform/physics/PhysicsWorld.h"\n',
+        "recording/Recorder.h": '#include "engine/Game.h"\n',
         "app/View.cpp": '#include "engine/Game.h"\n#include "platform/runloop/QtQueue.h"\n#include <QQuickItem>\n',
         "tools/Sim.h": '#include "engine/Game.h"\n',
         "tests/GameTest.cpp": '#include "tools/Sim.h"\n#include <gtest/gtest.h>\n#include <unistd.h>\n',
@@ -118,6 +119,8 @@ class TheCheck(unittest.TestCase):
             ("career/Diary.cpp", "engine/Game.h"),
             ("career/Diary.cpp", "scene/Court.h"),
             ("engine/Game.cpp", "app/View.cpp"),
+            ("engine/Game.cpp", "recording/Recorder.h"),
+            ("recording/Recorder.cpp", "app/View.cpp"),
             ("tools/Sim.cpp", "app/View.cpp"),
         ):
             self.assert_refused(name, f'#include "{header}"\n', "arrows point down")

@@ -1,4 +1,5 @@
 // The simulator as a program: its limits, what it says, its status.
+#include "recording/PhysicsId.h"
 #include "tools/sim/Options.h"
 #include "tools/sim/Progress.h"
 #include "tools/sim/Simulator.h"
@@ -28,6 +29,13 @@ TEST(SimulatorProgramTest, TellsAMatchInALine) {
     EXPECT_EQ(simulate(Arguments{"--seed", "3"}, out, errors), 0);
     EXPECT_TRUE(out.str().starts_with("match 3  red medium  blue medium  score ")) << out.str();
     EXPECT_EQ(errors.str(), "");
+}
+
+TEST(SimulatorProgramTest, TheSignatureIsTheOneThatRecordingsName) {
+    std::ostringstream out;
+    std::ostringstream errors;
+    EXPECT_EQ(simulate(Arguments{"--signature"}, out, errors), 0);
+    EXPECT_EQ(out.str(), std::string(recording::physicsId) + "\n");
 }
 
 TEST(SimulatorProgramTest, WrongArgumentsAreOneLineAndStatus2) {
