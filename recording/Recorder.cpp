@@ -16,8 +16,7 @@ Recorder::Recorder(GameLogic& match, MatchRandom& random, OpenOutput open)
 
 template <typename T, typename Choose>
 void Recorder::observe(const Published<T>& value, Choose choose) {
-    observations_.push_back(
-        value.onWillChange([this, choose](const T& next) { add(Choice(choose(next))); }));
+    observations_.push_back(value.onWillChange([this, choose](const T& next) { add(Choice(choose(next))); }));
 }
 
 void Recorder::follow() {

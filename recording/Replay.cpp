@@ -4,8 +4,21 @@
 
 namespace vorbel::recording {
 
-Replay::Replay(Recording recording)
-    : recording_(std::move(recording)), random_(recording_.heading.random) {}
+namespace {
+
+struct StartChooser {
+    MatchStart& start;
+
+    void operator()(RedIsAI red) const { start.redIsAI = red.computer; }
+    void operator()(BlueIsAI blue) const { start.blueIsAI = blue.computer; }
+    void operator()(AIDifficulty level) const { start.level = level; }
+    void operator()(BocciaClass sportClass) const { start.sportClass = sportClass; }
+    void operator()(Country country) const { start.playerCountry = country; }
+};
+
+} // namespace
+
+Replay::Replay(Recording recording) : recording_(std::move(recording)), random_(recording_.heading.random) {}
 
 void Replay::begin(GameLogic& match) {
     match_ = &match;
@@ -24,12 +37,26 @@ void Replay::tick() {
     goOn();
 }
 
-void Replay::skipIdleBeginning(std::int64_t ticksLeft) {
-    const auto isThrow = [](const Entry& entry) {
+std::vector<Entry>::const_iterator Replay::firstThrow() const {
+    return std::ranges::find_if(recording_.entries, [](const Entry& entry) {
         const auto* const action = std::get_if<MatchAction>(&entry.what);
-        return action != nullptr && (action->kind == MatchAction::Kind::press || action->kind == MatchAction::Kind::step);
-    };
-    const auto first = std::ranges::find_if(recording_.entries, isThrow);
+        return action != nullptr &&
+               (action->kind == MatchAction::Kind::press || action->kind == MatchAction::Kind::step);
+    });
+}
+
+MatchStart Replay::startOfPlay() const {
+    MatchStart start = recording_.heading.start;
+    for (auto entry = recording_.entries.begin(); entry != firstThrow(); ++entry) {
+        if (const auto* const choice = std::get_if<Choice>(&entry->what)) {
+            std::visit(StartChooser{start}, *choice);
+        }
+    }
+    return start;
+}
+
+void Replay::skipIdleBeginning(std::int64_t ticksLeft) {
+    const auto first = firstThrow();
     while (first != recording_.entries.end() && tick_ < first->tick - ticksLeft && state_ == State::running) {
         tick();
     }
@@ -97,6 +124,16 @@ void Replay::perform(const Result& result) {
     if (state_ == State::running) {
         state_ = State::complete;
     }
+}
+
+std::string Replay::problem() const {
+    const std::string place = "tick " + std::to_string(tick_);
+    return state_ == State::cutShort
+               ? "it ends before the match does, after " + place + "; so far it is as recorded"
+           : state_ == State::parted
+               ? "the match has gone another way by " + place +
+                     ": the recording was changed, or made where sines have other last bits"
+               : "";
 }
 
 void Replay::mustBe(bool asRecorded) {

@@ -24,14 +24,18 @@ public:
 
     enum class State : std::uint8_t {
         running,
-        complete,  // it came to its end as recorded
-        parted,    // it went differently: the recording was changed, or made on a machine that calculates differently
-        cutShort,  // it went as recorded as far as the recording goes
+        complete, // it came to its end as recorded
+        parted, // it went differently: the recording was changed, or made on a machine that calculates differently
+        cutShort, // it went as recorded as far as the recording goes
     };
     [[nodiscard]] State state() const { return state_; }
+    // A sentence on what is wrong with it; empty as long as nothing is.
+    [[nodiscard]] std::string problem() const;
 
     // One tick, and all that was done before the next. Nothing once it is not running any more.
     void tick();
+    // With what was chosen before the first throw was begun.
+    [[nodiscard]] MatchStart startOfPlay() const;
     // The same, as long as nothing has been done yet and nothing will be done within as many ticks.
     void skipIdleBeginning(std::int64_t ticksLeft);
 
@@ -39,6 +43,7 @@ public:
     [[nodiscard]] const Recording& recording() const { return recording_; }
 
 private:
+    [[nodiscard]] std::vector<Entry>::const_iterator firstThrow() const;
     void goOn();
     void perform(const MatchAction& action);
     void perform(const Choice& choice);

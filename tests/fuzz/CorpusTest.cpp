@@ -33,6 +33,7 @@ TEST_P(CorpusTest, IsReadAsPromised) {
 
 INSTANTIATE_TEST_SUITE_P(All, CorpusTest,
                          testing::Values(Fuzzed{"settings", fuzzSettings}, Fuzzed{"diary", fuzzDiary},
+                                         Fuzzed{"recording", fuzzRecording},
                                          Fuzzed{"command_line", fuzzCommandLine}),
                          [](const auto& test) { return test.param.folder; });
 

@@ -3,6 +3,7 @@
 #include "app/command_line/CommandLine.h"
 #include "career/Diary.h"
 #include "platform/store/DefaultsValue.h"
+#include "recording/RecordedLines.h"
 #include "tools/sim/Options.h"
 
 #include <algorithm>
@@ -59,6 +60,14 @@ void parseForSimulator(const std::vector<std::string>& arguments) {
     }
 }
 
+std::string textOf(const recording::Recording& recorded) {
+    std::string text = lineOf(recorded.heading);
+    for (const recording::Entry& entry : recorded.entries) {
+        text += lineOf(entry);
+    }
+    return text;
+}
+
 } // namespace
 
 void fuzzSettings(std::string_view content) {
@@ -72,6 +81,18 @@ void fuzzDiary(std::string_view json) {
     require(!diary.damaged || diary.entries.empty());
     const ReadDiary again = readDiary(encodeDiary(diary.entries));
     require(!again.damaged && std::ranges::equal(again.entries, diary.entries, isSameEntry));
+}
+
+// What is read is written as it was understood, and then reads as the same.
+void fuzzRecording(std::string_view text) {
+    const auto read = recording::readRecording(text);
+    const auto* const recorded = std::get_if<recording::Recording>(&read);
+    if (recorded == nullptr) {
+        return require(!std::get<std::string>(read).empty());
+    }
+    const std::string written = textOf(*recorded);
+    const auto again = recording::readRecording(written);
+    require(textOf(std::get<recording::Recording>(again)) == written);
 }
 
 void fuzzCommandLine(std::string_view arguments) {

@@ -8,6 +8,7 @@ namespace vorbel {
 
 void fuzzSettings(std::string_view content); // of a value's file
 void fuzzDiary(std::string_view json);
+void fuzzRecording(std::string_view text);
 void fuzzCommandLine(std::string_view arguments); // an argument a line, for the game and for the simulator
 
 } // namespace vorbel

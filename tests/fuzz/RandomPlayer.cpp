@@ -21,7 +21,10 @@ bool ballsLeftInRange(int left) {
 
 } // namespace
 
-RandomPlayer::RandomPlayer(std::uint64_t seed) : platform_(seed), game_(platform_.services()) {
+RandomPlayer::RandomPlayer(std::uint64_t seed)
+    : platform_(seed),
+      random_({seed, 0}),
+      game_({platform_.queue, random_, platform_.audio, platform_.resources}) {
     phasesSeen_.insert(game_.phase);
     phaseWatch_ = game_.phase.onWillChange([this](GamePhase phase) {
         phasesSeen_.insert(phase);
@@ -63,6 +66,17 @@ void RandomPlayer::perform(Action action) {
         return game_.resetMatch();
     case Action::newTournament:
         return game_.startTournament(Country::thailand);
+    case Action::takeBack:
+        return game_.takeBack();
+    case Action::turnFinely:
+        return game_.turnAim(-aim::fineStep);
+    case Action::morePower:
+        return game_.changePower(aim::powerByHandLeap);
+    case Action::otherPace:
+        return game_.setPowerPace(game_.powerPace() > 0 ? game_.powerPace() - 0.25 : 1);
+    case Action::pauseAndResume:
+        game_.pause();
+        return game_.resume();
     }
 }
 

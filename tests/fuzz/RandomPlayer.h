@@ -3,9 +3,11 @@
 
 #include "engine/GameLogic.h"
 #include "platform/HeadlessPlatform.h"
+#include "recording/Recorder.h"
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -25,12 +27,20 @@ enum class Action : std::uint8_t {
     nextLanguage,
     newMatch,
     newTournament,
+    takeBack,
+    turnFinely,
+    morePower,
+    otherPace,
+    pauseAndResume,
 };
-inline constexpr std::size_t actionCount = 12;
+inline constexpr std::size_t actionCount = 17;
 
 class RandomPlayer {
 public:
     explicit RandomPlayer(std::uint64_t seed);
+
+    // Each match from now on into an output of its own. Call it before anything is performed.
+    void record(recording::Recorder::OpenOutput open) { recorder_.emplace(game_, random_, std::move(open)); }
 
     void perform(Action action);
     void wait(double seconds) { platform_.queue.advance(seconds); }
@@ -48,7 +58,9 @@ private:
     [[nodiscard]] std::string brokenBall() const;
 
     HeadlessPlatform platform_;
+    recording::MatchRandom random_;
     GameLogic game_;
+    std::optional<recording::Recorder> recorder_;
     std::set<GamePhase> phasesSeen_;
     int progress_ = 0;
     Subscription phaseWatch_;

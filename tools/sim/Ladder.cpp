@@ -1,16 +1,10 @@
 #include "tools/sim/Ladder.h"
 
+#include "tools/sim/InOrder.h"
 #include "tools/sim/Levels.h"
-#include "tools/sim/MatchPlayer.h"
 
-#include <algorithm>
-#include <atomic>
-#include <functional>
 #include <iomanip>
 #include <ostream>
-#include <system_error>
-#include <thread>
-#include <vector>
 
 namespace vorbel::sim {
 
@@ -18,22 +12,9 @@ namespace {
 
 constexpr std::size_t levels = allDifficulties.size();
 constexpr std::size_t cells = levels * levels;
-constexpr unsigned mostJobs = 256;
 
 constexpr std::size_t place(AIDifficulty level) {
     return static_cast<std::size_t>(level);
-}
-
-// On this thread, and on helpers as far as the system gives them.
-void playTogether(const std::function<void()>& playMatches, unsigned jobs) {
-    std::vector<std::jthread> helpers;
-    try {
-        for (unsigned i = 1; i < std::min(jobs, mostJobs); ++i) {
-            helpers.emplace_back(playMatches);
-        }
-    } catch (const std::system_error&) { // no more threads
-    }
-    playMatches();
 }
 
 } // namespace
@@ -42,27 +23,24 @@ std::int64_t matchesOf(const LadderSettings& settings) {
     return std::int64_t{cells} * settings.matchesPerCell;
 }
 
-WinTable playLadder(const LadderSettings& settings, const std::function<void()>& onMatch) {
-    const std::int64_t total = matchesOf(settings);
-    std::array<std::atomic<int>, cells> wins{};
-    std::atomic<std::int64_t> next = 0;
-    const auto playMatches = [&] {
-        for (std::int64_t i = next++; i < total; i = next++) {
-            const auto cell = static_cast<std::size_t>(i / settings.matchesPerCell);
-            MatchPlayer match({.seed = settings.firstSeed + static_cast<std::uint64_t>(i),
-                               .red = allDifficulties[cell / levels],
-                               .blue = allDifficulties[cell % levels]});
-            match.play();
-            wins[cell] += match.game().redScore > match.game().blueScore ? 1 : 0;
-            onMatch();
-        }
-    };
-    playTogether(playMatches, settings.jobs);
-    WinTable table{};
-    for (std::size_t cell = 0; cell < wins.size(); ++cell) {
-        table[cell / levels][cell % levels] = wins[cell];
-    }
-    return table;
+Pairing pairingOf(const LadderSettings& settings, std::int64_t match) {
+    const auto cell = static_cast<std::size_t>(match / settings.matchesPerCell);
+    return {.seed = settings.firstSeed + static_cast<std::uint64_t>(match),
+            .red = allDifficulties[cell / levels],
+            .blue = allDifficulties[cell % levels]};
+}
+
+WinTable playLadder(const LadderSettings& settings, const Wanted& wanted,
+                    const std::function<bool(const MatchReport&)>& onMatch) {
+    WinTable wins{};
+    inOrder<MatchReport>(
+        matchesOf(settings), settings.jobs,
+        [&](std::int64_t match) { return reportOf(pairingOf(settings, match), wanted); },
+        [&](const MatchReport& report) {
+            wins[place(report.pairing.red)][place(report.pairing.blue)] += report.redHasWon ? 1 : 0;
+            return onMatch(report);
+        });
+    return wins;
 }
 
 double winRate(const WinTable& wins, int matchesPerCell, AIDifficulty level, AIDifficulty against) {

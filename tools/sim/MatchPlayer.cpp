@@ -1,11 +1,12 @@
 #include "tools/sim/MatchPlayer.h"
 
-#include "scene/Ball.h"
-
 namespace vorbel::sim {
 
 MatchPlayer::MatchPlayer(const Pairing& pairing)
-    : platform_(pairing.seed), pairing_(pairing), game_(platform_.services()) {
+    : platform_(pairing.seed),
+      random_({pairing.seed, 0}),
+      pairing_(pairing),
+      game_({platform_.queue, random_, platform_.audio, platform_.resources}) {
     // The game knows one level for both sides: here it follows the turn.
     game_.aiDifficulty = pairing_.red;
     levelFollowsTurn_ = game_.currentTurn.onWillChange([this](const BallColor& side) {
@@ -18,39 +19,16 @@ MatchPlayer::MatchPlayer(const Pairing& pairing)
 
 bool MatchPlayer::play() {
     constexpr double simulatedDay = 86'400; // s
-    AimState before = game_.aimState;
     while (game_.phase != GamePhase::gameOver && simulatedSeconds() < simulatedDay) {
         if (game_.phase == GamePhase::endOver) {
             game_.processInput();
         }
         platform_.queue.advance(GameLogic::tickPeriod);
-        if (observer_ && before != game_.aimState) {
-            before == AimState::thrown ? finishThrow() : beginThrow();
+        if (watch_) {
+            watch_->look();
         }
-        before = game_.aimState;
     }
     return game_.phase == GamePhase::gameOver;
-}
-
-void MatchPlayer::beginThrow() {
-    if (game_.aimState != AimState::thrown) {
-        return;
-    }
-    const bool jack = game_.phase == GamePhase::throwingJack;
-    throw_ = {.ball = jack ? BallColor::jack : game_.currentTurn.get(),
-              .side = game_.currentTurn,
-              .end = game_.currentEnd,
-              .angle = game_.aimAngle,
-              .power = game_.aimPower};
-    for (const Node::Ptr& node : game_.scene.root->children()) {
-        if (isBall(*node)) {
-            throw_.balls.push_back(node);
-        }
-    }
-}
-
-void MatchPlayer::finishThrow() {
-    observer_(throw_, game_);
 }
 
 } // namespace vorbel::sim

@@ -2,8 +2,11 @@
 
 #include "tools/sim/Levels.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <optional>
+#include <thread>
 
 namespace vorbel::sim {
 
@@ -53,7 +56,17 @@ bool setFlag(Options& options, std::string_view name) {
 }
 
 bool takesValue(std::string_view name) {
-    return name == "--matches" || name == "--red" || name == "--blue" || name == "--seed" || name == "--jobs";
+    constexpr std::array<std::string_view, 8> names{"--matches", "--red",    "--blue", "--seed",
+                                                    "--replay",  "--record", "--csv",  "--plot"};
+    return std::ranges::find(names, name) != names.end();
+}
+
+std::string* pathFor(Options& options, std::string_view name) {
+    return name == "--replay"   ? &options.replay
+           : name == "--record" ? &options.record
+           : name == "--csv"    ? &options.csv
+           : name == "--plot"   ? &options.plot
+                                : nullptr;
 }
 
 bool setValue(Options& options, std::string_view name, std::string_view value) {
@@ -66,8 +79,9 @@ bool setValue(Options& options, std::string_view name, std::string_view value) {
     if (name == "--blue") {
         return store(options.blue, level(value));
     }
-    if (name == "--jobs") {
-        return store(options.jobs, number(value, 1U));
+    if (std::string* const path = pathFor(options, name)) {
+        *path = value;
+        return !path->empty();
     }
     return store(options.seed, number(value, std::uint64_t{0}));
 }
@@ -79,6 +93,16 @@ std::variant<Options, std::string> parseOptions(std::span<const char* const> arg
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string name = arguments[i];
         if (setFlag(options, name)) {
+            continue;
+        }
+        if (name == "--jobs") {
+            const bool given =
+                i + 1 < arguments.size() && !std::string_view(arguments[i + 1]).starts_with("-");
+            const auto jobs = given ? number(arguments[++i], 1U)
+                                    : std::optional(std::max(1U, std::thread::hardware_concurrency()));
+            if (!store(options.jobs, jobs)) {
+                return std::string(arguments[i]) + " is no value for --jobs; see vorbel-sim --help";
+            }
             continue;
         }
         if (!takesValue(name)) {
@@ -113,7 +137,11 @@ std::string_view helpText() {
            "  --trace       a line for every throw: its aim, where the balls came to rest, turn and score\n"
            "  --ladder      every level against every level: a table of win rates\n"
            "  --signature   one number that changes only when matches go differently\n"
-           "  --jobs N      threads for --ladder (default 1)\n"
+           "  --jobs [N]    N threads, or one for each processor; the results are the same (default 1)\n"
+           "  --csv FILE    a row for every throw\n"
+           "  --plot FILE   a picture (SVG) of where each level's balls come to rest around the jack\n"
+           "  --record FOLDER  a recording of each match\n"
+           "  --replay FILE plays a recorded match again, and sees whether it goes as it went\n"
            "  --help        this text\n";
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "rules/MatchTypes.h"
-#include "tools/sim/Ladder.h"
+#include "tools/sim/LadderSettings.h"
 
 #include <cstdint>
 #include <span>
@@ -23,6 +23,10 @@ struct Options {
     AIDifficulty red = AIDifficulty::medium;
     AIDifficulty blue = AIDifficulty::medium;
     std::uint64_t seed = 1;
+    std::string replay{}; // file, like the next three; empty: none
+    std::string record{}; // a folder
+    std::string csv{};
+    std::string plot{};
 };
 
 // The options, or one line that says what is wrong with the arguments (the program's name not among them).

@@ -31,13 +31,17 @@ void writeThrow(std::ostream& out, const Throw& played, const GameLogic& game) {
         << phaseName(game.phase) << '\n';
 }
 
-void writeResult(std::ostream& out, const Pairing& pairing, const MatchPlayer& match) {
-    const GameLogic& game = match.game();
-    out << "match " << pairing.seed << "  red " << levelName(pairing.red) << "  blue "
-        << levelName(pairing.blue) << "  score " << game.redScore << ':' << game.blueScore << "  ends";
+void writeScore(std::ostream& out, const GameLogic& game) {
+    out << "score " << game.redScore << ':' << game.blueScore << "  ends";
     for (const EndResult& end : game.endHistory.get()) {
         out << ' ' << end.red << ':' << end.blue;
     }
+}
+
+void writeResult(std::ostream& out, const Pairing& pairing, const MatchPlayer& match) {
+    out << "match " << pairing.seed << "  red " << levelName(pairing.red) << "  blue "
+        << levelName(pairing.blue) << "  ";
+    writeScore(out, match.game());
     out << std::fixed << std::setprecision(0) << "  " << match.simulatedSeconds() << " s on the clock\n";
 }
 

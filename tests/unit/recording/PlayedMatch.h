@@ -20,7 +20,8 @@ struct PlayedMatch {
     SilentAudio audio;
     Resources resources;
     GameLogic game{Platform{queue, random, audio, resources}};
-    std::vector<std::shared_ptr<std::string>> texts{}; // of the recordings, as far as they were written and flushed
+    std::vector<std::shared_ptr<std::string>>
+        texts{}; // of the recordings, as far as they were written and flushed
     Recorder recorder{game, random, [this] { return newOutput(); }};
 
     PlayedMatch() { game.startAimingLoop(); }

@@ -40,9 +40,10 @@ TEST(ReadRecordingTest, GivesBackWhatWasWritten) {
                            .powerDirection = -1,
                            .computerIsScheduled = true,
                            .powerPace = 0.125};
-    const std::string text = lineOf(Heading{std::string(physicsId), {0xfedcba9876543210, 12}, start}) + press +
-                             lineOf(Entry{8, MatchAction{MatchAction::Kind::turn, -0.05}}) +
-                             lineOf(Entry{8, Choice(BlueIsAI{true})}) + lineOf(Entry{8, Choice(Country::egypt)}) +
+    const std::string text = lineOf(Heading{std::string(physicsId), {0xfedcba9876543210, 12}, start}) +
+                             press + lineOf(Entry{8, MatchAction{MatchAction::Kind::turn, -0.05}}) +
+                             lineOf(Entry{8, Choice(BlueIsAI{true})}) +
+                             lineOf(Entry{8, Choice(Country::egypt)}) +
                              lineOf(Entry{8, Check{0xffffffffffffffff}}) + result;
     const auto recording = std::get<Recording>(readRecording(text));
     EXPECT_EQ(recording.heading.random.seed, 0xfedcba9876543210);
@@ -55,7 +56,8 @@ TEST(ReadRecordingTest, GivesBackWhatWasWritten) {
 
 TEST(ReadRecordingTest, EveryActionAndChoiceHasAWordOfItsOwn) {
     using Kind = MatchAction::Kind;
-    for (const Kind kind : {Kind::press, Kind::takeBack, Kind::turn, Kind::raise, Kind::power, Kind::pace, Kind::step}) {
+    for (const Kind kind :
+         {Kind::press, Kind::takeBack, Kind::turn, Kind::raise, Kind::power, Kind::pace, Kind::step}) {
         const auto entry = entryIn(lineOf(Entry{1, MatchAction{kind, 0.25}}));
         ASSERT_TRUE(entry);
         EXPECT_EQ(std::get<MatchAction>(entry->what), (MatchAction{kind, 0.25}));
@@ -79,30 +81,48 @@ TEST(ReadRecordingTest, OneThatWasCutShortIsReadAsFarAsItGoes) {
 
 TEST(ReadRecordingTest, WhatIsNoRecordingIsRefused) {
     for (const std::string& text :
-         {std::string(), std::string("\n"), std::string("[]\n"), std::string("{}\n"), heading.substr(0, 30), press,
-          replaced(heading, R"("seed":"f)", R"("seed":"g)"), replaced(heading, R"("level":"medium")", R"("level":"high")"),
-          replaced(heading, R"("round":0)", R"("round":5)"), replaced(heading, R"("drawn":12)", R"("drawn":1e300)"),
-          replaced(heading, R"("power":10.0)", R"("power":"10")"), replaced(heading, R"("version":1)", R"("version":0)")}) {
+         {std::string(), std::string("\n"), std::string("[]\n"), std::string("{}\n"), heading.substr(0, 30),
+          press, replaced(heading, R"("seed":"f)", R"("seed":"g)"),
+          replaced(heading, R"("level":"medium")", R"("level":"high")"),
+          replaced(heading, R"("round":0)", R"("round":5)"),
+          replaced(heading, R"("drawn":12)", R"("drawn":1e300)"),
+          replaced(heading, R"("power":10.0)", R"("power":"10")"),
+          replaced(heading, R"("version":1)", R"("version":0)")}) {
         EXPECT_EQ(refusalOf(text), "it is no recording of a match, or its first line was changed") << text;
     }
 }
 
 TEST(ReadRecordingTest, OneOfOtherPhysicsOrOfANewerGameIsRefusedByName) {
     EXPECT_EQ(refusalOf(replaced(heading, physicsId, "0123456789abcdef")),
-              "it was played with other physics (0123456789abcdef) than this game's (" + std::string(physicsId) + ")");
+              "it was played with other physics (0123456789abcdef) than this game's (" +
+                  std::string(physicsId) + ")");
     EXPECT_EQ(refusalOf("{\"vorbel\":\"match\",\"version\":2,\"whatever\":true}\n"),
               "it comes from a newer game: it has version 2, and this game reads version 1");
 }
 
 TEST(ReadRecordingTest, LinesThatNobodyWroteAreRefused) {
-    for (const std::string& line :
-         {std::string("\n"), std::string("press\n"), std::string(R"({"tick":6,"do":"press"})" "\n"), // before the first
-          std::string(R"({"tick":-1,"do":"press"})" "\n"), std::string(R"({"tick":8,"do":"jump"})" "\n"),
-          std::string(R"({"tick":8,"do":"turn","by":1e999})" "\n"), std::string(R"({"tick":1e18,"do":"press"})" "\n"),
-          std::string(R"({"tick":4320001,"do":"press"})" "\n"), std::string(R"({"tick":8,"set":"red","to":"dog"})" "\n"),
-          std::string(R"({"tick":8,"hash":"xyz"})" "\n"), std::string(R"({"tick":8,"hash":"1","result":5})" "\n"),
-          std::string(100'000, '[')}) {
-        EXPECT_EQ(refusalOf(heading + press + line), "line 3 is none that the game writes there") << line.substr(0, 80);
+    for (const std::string& line : {std::string("\n"), std::string("press\n"),
+                                    std::string(R"({"tick":6,"do":"press"})"
+                                                "\n"), // before the first
+                                    std::string(R"({"tick":-1,"do":"press"})"
+                                                "\n"),
+                                    std::string(R"({"tick":8,"do":"jump"})"
+                                                "\n"),
+                                    std::string(R"({"tick":8,"do":"turn","by":1e999})"
+                                                "\n"),
+                                    std::string(R"({"tick":1e18,"do":"press"})"
+                                                "\n"),
+                                    std::string(R"({"tick":4320001,"do":"press"})"
+                                                "\n"),
+                                    std::string(R"({"tick":8,"set":"red","to":"dog"})"
+                                                "\n"),
+                                    std::string(R"({"tick":8,"hash":"xyz"})"
+                                                "\n"),
+                                    std::string(R"({"tick":8,"hash":"1","result":5})"
+                                                "\n"),
+                                    std::string(100'000, '[')}) {
+        EXPECT_EQ(refusalOf(heading + press + line), "line 3 is none that the game writes there")
+            << line.substr(0, 80);
     }
     EXPECT_THAT(refusalOf(heading + result + press), HasSubstr("line 3")); // after the result
 }

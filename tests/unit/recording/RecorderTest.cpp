@@ -33,8 +33,9 @@ TEST(RecorderTest, TheFirstThrowBringsAllThatWasBefore) {
     ASSERT_EQ(match.texts.size(), 1U);
     const std::string& text = *match.texts[0];
     EXPECT_THAT(text, StartsWith(R"({"vorbel":"match","version":1,"physics":")"));
-    EXPECT_THAT(text, HasSubstr("\n{\"tick\":0,\"set\":\"class\",\"to\":\"BC4\"}\n{\"tick\":3,\"do\":\"press\"}\n"
-                                "{\"tick\":3,\"do\":\"turn\",\"by\":0.05}\n"));
+    EXPECT_THAT(text,
+                HasSubstr("\n{\"tick\":0,\"set\":\"class\",\"to\":\"BC4\"}\n{\"tick\":3,\"do\":\"press\"}\n"
+                          "{\"tick\":3,\"do\":\"turn\",\"by\":0.05}\n"));
     EXPECT_THAT(text, EndsWith("\n{\"tick\":43,\"do\":\"press\"}\n"));
 }
 

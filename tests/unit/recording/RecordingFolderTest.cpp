@@ -31,7 +31,10 @@ protected:
         return found;
     }
 
-    fs::path place = fs::temp_directory_path() / ("vorbel-recordings-" + std::to_string(testing::UnitTest::GetInstance()->random_seed())) / testing::UnitTest::GetInstance()->current_test_info()->name();
+    fs::path place =
+        fs::temp_directory_path() /
+        ("vorbel-recordings-" + std::to_string(testing::UnitTest::GetInstance()->random_seed())) /
+        testing::UnitTest::GetInstance()->current_test_info()->name();
     RecordingFolder folder{place};
 };
 
@@ -41,8 +44,9 @@ TEST_F(RecordingFolderTest, NamesAMatchAfterItsTimeAndNeverTwoAlike) {
     *folder.newFile(evening) << "one";
     *folder.newFile(evening + 700ms) << "two";
     *folder.newFile(evening + 1s) << "three";
-    EXPECT_EQ(names(), (std::set<std::string>{"match-20260131-235959-01.jsonl", "match-20260131-235959-02.jsonl",
-                                              "match-20260201-000000-01.jsonl"}));
+    EXPECT_EQ(names(),
+              (std::set<std::string>{"match-20260131-235959-01.jsonl", "match-20260131-235959-02.jsonl",
+                                     "match-20260201-000000-01.jsonl"}));
     std::ifstream second(place / "match-20260131-235959-02.jsonl");
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(second), {}), "two");
 }

@@ -119,7 +119,8 @@ TEST(ReplayTest, AMatchThatWasChangedIsFoundOut) {
     EXPECT_EQ(replayed(changed(R"("to":"hard")", R"("to":"easy")")), Replay::State::parted);
     EXPECT_EQ(replayed(changed(R"("result":{"red":)", R"("result":{"red":1)")), Replay::State::parted);
     EXPECT_EQ(replayed(changed(R"("seed":"0)", R"("seed":"1)")), Replay::State::parted);
-    EXPECT_EQ(replayed(changed(R"({"tick":60,"do":"press"})", R"({"tick":61,"do":"press"})")), Replay::State::parted);
+    EXPECT_EQ(replayed(changed(R"({"tick":60,"do":"press"})", R"({"tick":61,"do":"press"})")),
+              Replay::State::parted);
 }
 
 TEST(ReplayTest, ALineThatWasTakenOutIsFoundOut) {

@@ -1,14 +1,18 @@
 // The simulator as a program: its limits, what it says, its status.
 #include "recording/PhysicsId.h"
+#include "tools/sim/Ladder.h"
 #include "tools/sim/Options.h"
 #include "tools/sim/Progress.h"
 #include "tools/sim/Simulator.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <limits>
+#include <random>
 #include <sstream>
+#include <thread>
 #include <vector>
 
 namespace vorbel::sim {
@@ -20,6 +24,25 @@ using Arguments = std::vector<const char*>;
 LadderSettings ladder(const Arguments& arguments) {
     return ladderSettings(std::get<Options>(parseOptions(arguments)));
 }
+
+std::string textOf(const std::string& file) {
+    std::ifstream stream(file);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+class SimulatorFolder {
+public:
+    SimulatorFolder() { std::filesystem::create_directories(place_); }
+    ~SimulatorFolder() { std::filesystem::remove_all(place_); }
+    SimulatorFolder(const SimulatorFolder&) = delete;
+    SimulatorFolder& operator=(const SimulatorFolder&) = delete;
+
+    [[nodiscard]] std::string file(const char* name) const { return place_ / name; }
+
+private:
+    std::filesystem::path place_ =
+        std::filesystem::temp_directory_path() / ("vorbel-sim-" + std::to_string(std::random_device()()));
+};
 
 } // namespace
 
@@ -76,6 +99,65 @@ TEST(SimulatorProgramTest, LadderShowsItsProgressOnATerminalAndClearsItInTheEnd)
     EXPECT_TRUE(terminal.str().ends_with("\r\033[K"));
     EXPECT_EQ(errors.str(), "");
     EXPECT_EQ(out.str().find('\r'), std::string::npos);
+}
+
+TEST(SimulatorProgramTest, ThreadsAndTheirNumberChangeNothing) {
+    const auto told = [](const char* jobs) {
+        const SimulatorFolder folder;
+        const std::string csv = folder.file("throws.csv");
+        const std::string plot = folder.file("places.svg");
+        std::ostringstream out;
+        std::ostringstream errors;
+        EXPECT_EQ(simulate(Arguments{"--matches", "6", "--red", "hard", "--trace", "--jobs", jobs, "--csv",
+                                     csv.c_str(), "--plot", plot.c_str()},
+                           out, errors),
+                  0)
+            << errors.str();
+        return out.str() + textOf(csv) + textOf(plot);
+    };
+    const std::string one = told("1");
+    EXPECT_EQ(told("5"), one);
+    EXPECT_NE(one.find("\n6,hard,medium,4,"), std::string::npos); // a row of the last match
+    EXPECT_NE(one.find(">hard</text>"), std::string::npos);
+}
+
+TEST(SimulatorProgramTest, ARecordedMatchIsToldAgain) {
+    const SimulatorFolder folder;
+    std::ostringstream played;
+    std::ostringstream again;
+    std::ostringstream errors;
+    const std::string place = folder.file("matches");
+    EXPECT_EQ(simulate(Arguments{"--seed", "4", "--trace", "--record", place.c_str()}, played, errors), 0);
+    const std::string file = place + "/medium-medium-4.jsonl";
+    EXPECT_EQ(simulate(Arguments{"--trace", "--replay", file.c_str()}, again, errors), 0);
+    EXPECT_EQ(errors.str(), "");
+    const auto throwsOf = [](const std::string& text) {
+        return text.substr(0, text.rfind('\n', text.size() - 2));
+    };
+    EXPECT_EQ(throwsOf(again.str()), throwsOf(played.str()));
+    EXPECT_EQ(again.str().substr(throwsOf(again.str()).size()).find("\nas recorded  score "), 0U);
+}
+
+TEST(SimulatorProgramTest, WhatCannotBeWrittenOrPlayedIsOneLineAndStatus1) {
+    for (const Arguments& arguments :
+         {Arguments{"--csv", "/dev/full"}, Arguments{"--plot", "/dev/full"},
+          Arguments{"--record", "/proc/nowhere"}, Arguments{"--replay", "/proc/nowhere"},
+          Arguments{"--replay", "/dev/zero"}, Arguments{"--replay", "/"}}) {
+        std::ostringstream out;
+        std::ostringstream errors;
+        EXPECT_EQ(simulate(arguments, out, errors), 1) << arguments[0] << arguments[1];
+        EXPECT_EQ(std::ranges::count(errors.str(), '\n'), 1) << errors.str();
+    }
+}
+
+TEST(SimulatorProgramTest, JobsWithoutANumberAreAsManyAsThereAreProcessors) {
+    const auto jobs = [](const Arguments& arguments) {
+        return std::get<Options>(parseOptions(arguments)).jobs;
+    };
+    EXPECT_EQ(jobs({"--jobs"}), std::max(1U, std::thread::hardware_concurrency()));
+    EXPECT_EQ(jobs({"--jobs", "--trace"}), std::max(1U, std::thread::hardware_concurrency()));
+    EXPECT_EQ(jobs({"--jobs", "3"}), 3U);
+    EXPECT_TRUE(std::holds_alternative<std::string>(parseOptions(Arguments{"--jobs", "many"})));
 }
 
 TEST(SimulatorProgramTest, TheLargestLadderIsCounted) {
