@@ -10,6 +10,7 @@
 #include "app/text/Fonts.h"
 #include "app/window/Display.h"
 #include "app/window/HeldKeys.h"
+#include "recording/RecordedFile.h"
 
 #include <QGuiApplication>
 #include <QtQml/qqmlextensionplugin.h>
@@ -68,6 +69,16 @@ int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
     return WindowedGame(application, commandLine).run();
 }
 
+int runReplay(QGuiApplication& application, const CommandLine& commandLine) {
+    auto read = recording::recordingInFile(commandLine.replay);
+    if (const auto* const problem = std::get_if<std::string>(&read)) {
+        std::fprintf(stderr, "vorbel: %s: %s\n", commandLine.replay.c_str(), problem->c_str());
+        return EXIT_FAILURE;
+    }
+    chooseGraphics();
+    return WindowedGame(application, commandLine, std::get<recording::Recording>(std::move(read))).run();
+}
+
 int runDiagnosis(QGuiApplication& application, const CommandLine& commandLine) {
     const Resources resources = Resources::forProgram(QCoreApplication::applicationFilePath().toStdString());
     std::string page = diagnosis(resources, {SettingsDefaults::userFolder(), userStateFolder()});
@@ -105,7 +116,8 @@ int runApplication(int argc, char** argv, const CommandLine& commandLine) {
     if (commandLine.action == CommandLine::Action::takeScreenshot) {
         return takeScreenshot(commandLine.screenshot);
     }
-    return runWindow(application, commandLine);
+    return commandLine.action == CommandLine::Action::replay ? runReplay(application, commandLine)
+                                                             : runWindow(application, commandLine);
 }
 
 } // namespace vorbel

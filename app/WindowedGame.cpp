@@ -7,11 +7,13 @@
 #include "app/text/Fonts.h"
 #include "app/window/Display.h"
 #include "app/window/PointSize.h"
+#include "recording/RecordingFolder.h"
 
 #include <QGuiApplication>
 #include <QIcon>
 #include <QQuickWindow>
 #include <QScreen>
+#include <QStandardPaths>
 
 namespace vorbel {
 
@@ -36,12 +38,14 @@ std::optional<LastSession>& lastSession() {
 
 } // namespace
 
-WindowedGame::WindowedGame(QGuiApplication& application, const CommandLine& commandLine)
+WindowedGame::WindowedGame(QGuiApplication& application, const CommandLine& commandLine,
+                           std::optional<recording::Recording> recorded)
     : application_(application),
       commandLine_(commandLine),
       resources_(Resources::forProgram(QCoreApplication::applicationFilePath().toStdString())),
       guest_(Demonstration::guestDefaults(defaults_)),
-      view_({queue_, random_, audio_, resources_}, player()),
+      replay_(recorded ? std::optional<recording::Replay>(std::move(*recorded)) : std::nullopt),
+      view_({queue_, random_, audio_, resources_}, player(), matchServices()),
       voice_(view_, queue_),
       shell_(*view_.settings(), notifications_),
       controllerInput_(controllers_, view_, queue_) {
@@ -67,6 +71,26 @@ UserDefaults& WindowedGame::player() {
     return defaults_;
 }
 
+// Chance is the system's; of a match that is recorded it is what follows from a seed that the system drew.
+MatchServices WindowedGame::matchServices() {
+    if (replay_) {
+        return {replay_->queue(), replay_->random()};
+    }
+    if (isDoing(CommandLine::Action::play) && !commandLine_.noRecording) {
+        return {queue_, matchRandom_};
+    }
+    return {queue_, random_};
+}
+
+void WindowedGame::record() {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const recording::RecordingFolder folder(std::filesystem::path(data.toStdString()) / "vorbel" /
+                                            "recordings");
+    recorder_.emplace(view_.gameLogic(), matchRandom_,
+                      [folder] { return folder.newFile(std::chrono::system_clock::now()); });
+    recorder_->drawSeedsFrom(random_);
+}
+
 int WindowedGame::run() {
     QQuickWindow* const window = loadedWindow();
     if (window == nullptr) {
@@ -77,14 +101,22 @@ int WindowedGame::run() {
     connectWindow(*window);
     if (isDoing(CommandLine::Action::play)) {
         tellOfLastSession();
+        if (!commandLine_.noRecording) {
+            record();
+        }
     }
     view_.appear();
     if (isDoing(CommandLine::Action::demonstrate)) {
         demonstration_.emplace(view_, queue_, *window, commandLine_.screenshotsFolder);
     } else if (isDoing(CommandLine::Action::diagnose)) {
         frameRate_.emplace(view_, *window);
+    } else if (replay_) {
+        application_.installEventFilter(&replayShow_.emplace(view_, queue_, *replay_));
     }
     const int status = QGuiApplication::exec();
+    if (recorder_ && !recorder_->isWritten()) {
+        qWarning("not every match could be recorded");
+    }
     lastSession().reset();
     return status;
 }

@@ -6,6 +6,7 @@
 #include "app/controller/ControllerInput.h"
 #include "app/demonstration/Demonstration.h"
 #include "app/diagnose/FrameRate.h"
+#include "app/replay/ReplayShow.h"
 #include "app/session/ScreenSaver.h"
 #include "app/shell/NotificationCenter.h"
 #include "app/shell/QtWindowFrame.h"
@@ -17,6 +18,7 @@
 #include "platform/runloop/QtMainQueue.h"
 #include "platform/store/MemoryDefaults.h"
 #include "platform/store/SettingsDefaults.h"
+#include "recording/Recorder.h"
 
 #include <QQmlApplicationEngine>
 
@@ -30,8 +32,10 @@ namespace vorbel {
 // Main thread only; one at a time.
 class WindowedGame {
 public:
-    // For play, demonstrate or diagnose. The application and the command line must outlive it.
-    WindowedGame(QGuiApplication& application, const CommandLine& commandLine);
+    // For play, demonstrate, diagnose or, with the recording, replay. The application and the command line must outlive
+    // it.
+    WindowedGame(QGuiApplication& application, const CommandLine& commandLine,
+                 std::optional<recording::Recording> recorded = {});
 
     // Shows the window and returns the exit status once it is closed.
     [[nodiscard]] int run();
@@ -41,6 +45,8 @@ private:
     [[nodiscard]] UserDefaults& player();
     [[nodiscard]] QQuickWindow* loadedWindow(); // null when it cannot be made; the engine has then said why
     void connectWindow(QQuickWindow& window);
+    [[nodiscard]] MatchServices matchServices();
+    void record();
     void tellOfLastSession();
 
     QGuiApplication& application_;
@@ -54,6 +60,9 @@ private:
     SettingsDefaults defaults_{SettingsDefaults::userFolder()};
     MemoryDefaults guest_; // of who leaves the player's career alone
 
+    recording::MatchRandom matchRandom_{{recording::MatchRandom::seedFrom(random_), 0}};
+    std::optional<recording::Replay> replay_;
+
     NotificationCenter notifications_;
     ContentView view_;
     GameVoice voice_;
@@ -64,6 +73,8 @@ private:
     std::optional<ScreenSaver> screenSaver_;
     std::optional<Demonstration> demonstration_;
     std::optional<FrameRate> frameRate_;
+    std::optional<ReplayShow> replayShow_;
+    std::optional<recording::Recorder> recorder_;
 };
 
 } // namespace vorbel

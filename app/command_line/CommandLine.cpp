@@ -35,6 +35,11 @@ private:
             result_.resetOptions = true;
         } else if (option == "--one-switch") {
             result_.oneSwitch = true;
+        } else if (option == "--no-recording") {
+            result_.noRecording = true;
+        } else if (option == "--replay") {
+            result_.action = Action::replay;
+            takePath(option, result_.replay);
         } else if (option == "--diagnose") {
             result_.action = Action::diagnose;
         } else if (option == "--verbose") {
@@ -86,6 +91,8 @@ Usage: vorbel [OPTION]
   --screenshot FILE       draw the arena into a PNG file and exit
   --demo                  let the computer play a match against itself and exit
   --screenshots FOLDER    with --demo: leave a picture of each stage in the folder
+  --replay FILE           show a recorded match again; any key ends it
+  --no-recording          do not record the matches that are played
   --one-switch            turn on playing with one switch
   --reset-options         start with every option as in a new game
   --diagnose              print what a report of a problem needs: a page about game and machine, and exit

@@ -23,10 +23,10 @@ constexpr std::array requests{Request{newGameRequested, MenuScreen::main},
 
 } // namespace
 
-ContentView::ContentView(const Platform& platform, UserDefaults& defaults)
+ContentView::ContentView(const Platform& platform, UserDefaults& defaults, const MatchServices& ofMatch)
     : audio_(platform.audio),
       platform_{platform.mainQueue, platform.random, audio_, platform.resources},
-      gameLogic_(platform_),
+      gameLogic_({ofMatch.queue, ofMatch.random, audio_, platform.resources}),
       settings_(gameLogic_, platform.mainQueue, defaults),
       options_(defaults),
       soundOptions_(audio_, options_),

@@ -30,6 +30,12 @@ namespace vorbel {
 
 class NotificationCenter;
 
+// What moves the match and its chance, where they are not the program's own: for a match that is recorded or played again.
+struct MatchServices {
+    MainQueue& queue;
+    RandomSource& random;
+};
+
 // Main thread only.
 class ContentView final : public QObject {
     Q_OBJECT
@@ -48,7 +54,9 @@ class ContentView final : public QObject {
 
 public:
     // The services and the defaults must outlive the view.
-    ContentView(const Platform& platform, UserDefaults& defaults);
+    ContentView(const Platform& platform, UserDefaults& defaults)
+        : ContentView(platform, defaults, {platform.mainQueue, platform.random}) {}
+    ContentView(const Platform& platform, UserDefaults& defaults, const MatchServices& ofMatch);
 
     // Call once, when the view is first shown: starts the tick and gives the match the stored language.
     void appear();

@@ -84,9 +84,12 @@ Action randomAction(SeededRandom& dice) {
 
 TEST(RecordedMatchesTest, OfComputersGoAgainAsTheyWent) {
     for (int i = 0; i < wantedMatches(); ++i) {
-        const auto level = [](int place) { return allDifficulties[static_cast<std::size_t>(place) % allDifficulties.size()]; };
+        const auto level = [](int place) {
+            return allDifficulties[static_cast<std::size_t>(place) % allDifficulties.size()];
+        };
         std::string text;
-        sim::MatchPlayer match({.seed = static_cast<std::uint64_t>(i), .red = level(i), .blue = level(i / 4)});
+        sim::MatchPlayer match(
+            {.seed = static_cast<std::uint64_t>(i), .red = level(i), .blue = level(i / 4)});
         match.record([&text] { return std::make_unique<TextOutput>(text); });
         ASSERT_TRUE(match.play());
         keep(text, "computers-" + std::to_string(i) + ".jsonl");
@@ -123,7 +126,8 @@ TEST(RecordedMatchesTest, OfRandomKeysGoAgainAsTheyWent) {
     }
     RecordProperty("complete", complete);
     RecordProperty("left", left);
-    std::cout << complete << " matches by random keys came to their end, " << left << " were left before it\n";
+    std::cout << complete << " matches by random keys came to their end, " << left
+              << " were left before it\n";
 }
 
 } // namespace vorbel::test

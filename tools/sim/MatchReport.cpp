@@ -22,8 +22,8 @@ void writeRow(std::ostream& out, const Pairing& pairing, const Throw& played, co
     const auto jack = game.thrownBalls().jack;
     out << std::fixed << std::setprecision(4) << pairing.seed << ',' << levelName(pairing.red) << ','
         << levelName(pairing.blue) << ',' << played.end << ',' << nodeName(played.side) << ','
-        << nodeName(played.ball) << ',' << played.angle << ',' << played.power << ',' << ball.x << ',' << ball.z
-        << ',';
+        << nodeName(played.ball) << ',' << played.angle << ',' << played.power << ',' << ball.x << ','
+        << ball.z << ',';
     if (jack) {
         out << jack->x << ',' << jack->z << ',' << glm::distance(ball, *jack);
     } else {
@@ -70,7 +70,8 @@ MatchReport reportOf(const Pairing& pairing, const Wanted& wanted) {
 }
 
 std::string headOfRows() {
-    return "seed,red_level,blue_level,end,side,ball,angle_rad,power_percent,ball_x_m,ball_z_m,jack_x_m,jack_z_m,"
+    return "seed,red_level,blue_level,end,side,ball,angle_rad,power_percent,ball_x_m,ball_z_m,jack_x_m,jack_"
+           "z_m,"
            "distance_m,red_score,blue_score\n";
 }
 

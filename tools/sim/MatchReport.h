@@ -20,8 +20,8 @@ struct MatchReport {
     bool hasEnded = false;
     bool isRecorded = true; // or was not to be
     bool redHasWon = false;
-    std::string text{};                  // the trace, if wanted, and the result
-    std::string rows{};                  // of the table of throws
+    std::string text{};                 // the trace, if wanted, and the result
+    std::string rows{};                 // of the table of throws
     std::vector<RestingPlace> places{}; // for the plot
 };
 

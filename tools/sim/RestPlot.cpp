@@ -53,14 +53,14 @@ std::string RestPlot::panel(AIDifficulty level, const Panel& panel, int left) {
     out << std::fixed << std::setprecision(2) << "<text x='" << left << "' y='28' font-size='20'>"
         << levelName(level) << "</text>\n<text x='" << left << "' y='50'>" << panel.balls << " balls, mean "
         << panel.distances / balls << " m, " << percent * static_cast<double>(panel.outside) / balls
-        << " % outside</text>\n<rect x='" << left << "' y='" << caption << "' width='" << width << "' height='"
-        << width << "' fill='#f4f1ea'/>\n";
+        << " % outside</text>\n<rect x='" << left << "' y='" << caption << "' width='" << width
+        << "' height='" << width << "' fill='#f4f1ea'/>\n";
     for (std::size_t i = 0; i < panel.counts.size(); ++i) {
         if (panel.counts[i] > 0) {
             // By the root, or the crowd around the jack would leave the rest white.
             out << "<rect x='" << left + static_cast<int>(i % side) * pixels << "' y='"
-                << caption + static_cast<int>(i / side) * pixels << "' width='" << pixels << "' height='" << pixels
-                << "' fill='" << ink << "' fill-opacity='"
+                << caption + static_cast<int>(i / side) * pixels << "' width='" << pixels << "' height='"
+                << pixels << "' fill='" << ink << "' fill-opacity='"
                 << std::sqrt(static_cast<double>(panel.counts[i]) / most) << "'/>\n";
         }
     }

@@ -15,6 +15,7 @@ Program::Program(const QStringList& arguments, const Environment& environment) {
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     variables.insert(QStringLiteral("XDG_CONFIG_HOME"), home_.path());
     variables.insert(QStringLiteral("XDG_STATE_HOME"), home_.path());
+    variables.insert(QStringLiteral("XDG_DATA_HOME"), home_.path() + QStringLiteral("/data"));
     variables.insert(QStringLiteral("SDL_AUDIODRIVER"), QStringLiteral("dummy"));
     for (const auto& [name, value] : environment) {
         value.isEmpty() ? variables.remove(name) : variables.insert(name, value);

@@ -35,6 +35,11 @@ TEST(CommandLineTest, KnowsItsOptions) {
     EXPECT_FALSE(parse({}).verbose);
     EXPECT_EQ(parse({"--screenshot", "arena.png"}).action, Action::takeScreenshot);
     EXPECT_EQ(parse({"--screenshot", "arena.png"}).screenshot, "arena.png");
+    EXPECT_EQ(parse({"--replay", "match.jsonl"}).action, Action::replay);
+    EXPECT_EQ(parse({"--replay", "match.jsonl"}).replay, "match.jsonl");
+    EXPECT_EQ(parse({"--replay"}).action, Action::complain);
+    EXPECT_TRUE(parse({"--no-recording"}).noRecording);
+    EXPECT_FALSE(parse({}).noRecording);
 }
 
 TEST(CommandLineTest, OptionsOfTheGameAreResetOrTurnedOnBeforeItIsPlayed) {
