@@ -47,6 +47,8 @@ public:
         return heldKeys_.holdBack(*event) || QGuiApplication::notify(receiver, event);
     }
 
+    [[nodiscard]] HeldKeys& heldKeys() { return heldKeys_; }
+
 private:
     HeldKeys heldKeys_;
 };
@@ -64,22 +66,24 @@ QString entryName() {
     return qEnvironmentVariable("FLATPAK_ID", QStringLiteral("vorbel"));
 }
 
-int runWindow(QGuiApplication& application, const CommandLine& commandLine) {
+int runWindow(KeyJudgingApplication& application, const CommandLine& commandLine) {
     chooseGraphics();
-    return WindowedGame(application, commandLine).run();
+    return WindowedGame(application, application.heldKeys(), commandLine).run();
 }
 
-int runReplay(QGuiApplication& application, const CommandLine& commandLine) {
+int runReplay(KeyJudgingApplication& application, const CommandLine& commandLine) {
     auto read = recording::recordingInFile(commandLine.replay);
     if (const auto* const problem = std::get_if<std::string>(&read)) {
         std::fprintf(stderr, "vorbel: %s: %s\n", commandLine.replay.c_str(), problem->c_str());
         return EXIT_FAILURE;
     }
     chooseGraphics();
-    return WindowedGame(application, commandLine, std::get<recording::Recording>(std::move(read))).run();
+    return WindowedGame(application, application.heldKeys(), commandLine,
+                        std::get<recording::Recording>(std::move(read)))
+        .run();
 }
 
-int runDiagnosis(QGuiApplication& application, const CommandLine& commandLine) {
+int runDiagnosis(KeyJudgingApplication& application, const CommandLine& commandLine) {
     const Resources resources = Resources::forProgram(QCoreApplication::applicationFilePath().toStdString());
     std::string page = diagnosis(resources, {SettingsDefaults::userFolder(), userStateFolder()});
     if (!hasDisplay()) {

@@ -6,11 +6,13 @@
 #include "app/session/StateFolder.h"
 #include "app/text/Fonts.h"
 #include "app/window/Display.h"
+#include "app/window/HeldKeys.h"
 #include "app/window/PointSize.h"
 #include "recording/RecordingFolder.h"
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QPointer>
 #include <QQuickWindow>
 #include <QScreen>
 #include <QStandardPaths>
@@ -36,9 +38,16 @@ std::optional<LastSession>& lastSession() {
     return last;
 }
 
+// What of the keys the player has changed goes with the view.
+std::function<bool(int)> movingKeys(ContentView& view) {
+    return [one = QPointer(view.oneSwitch())](int key) {
+        return HeldKeys::movesInMenus(key) && !(one && one->isSwitch(key));
+    };
+}
+
 } // namespace
 
-WindowedGame::WindowedGame(QGuiApplication& application, const CommandLine& commandLine,
+WindowedGame::WindowedGame(QGuiApplication& application, HeldKeys& heldKeys, const CommandLine& commandLine,
                            std::optional<recording::Recording> recorded)
     : application_(application),
       commandLine_(commandLine),
@@ -55,6 +64,7 @@ WindowedGame::WindowedGame(QGuiApplication& application, const CommandLine& comm
                      [this] { shell_.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(resources_));
     application_.installEventFilter(view_.oneSwitch()); // held keys were judged before
+    heldKeys.setMoving(movingKeys(view_));
 }
 
 // Whose settings are played with, as the command line wants them.

@@ -29,12 +29,14 @@ class QQuickWindow;
 
 namespace vorbel {
 
+class HeldKeys;
+
 // Main thread only; one at a time.
 class WindowedGame {
 public:
-    // For play, demonstrate, diagnose or, with the recording, replay. The application and the command line must outlive
-    // it.
-    WindowedGame(QGuiApplication& application, const CommandLine& commandLine,
+    // For play, demonstrate, diagnose or, with the recording, replay. Application, keys and
+    // command line must outlive it.
+    WindowedGame(QGuiApplication& application, HeldKeys& heldKeys, const CommandLine& commandLine,
                  std::optional<recording::Recording> recorded = {});
 
     // Shows the window and returns the exit status once it is closed.

@@ -26,6 +26,10 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "options.switchAsks.help",
     "options.switchRest",
     "options.switchRest.help",
+    "options.switchKey",
+    "options.switchKey.help",
+    "options.pressKey",
+    "options.none",
     "options.seconds.format",
 
     "options.devices",
@@ -84,6 +88,8 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "switch.again",
     "switch.goOn",
     "switch.resting",
+
+    "key.space",
 
     "sound.throw",
     "sound.hit",

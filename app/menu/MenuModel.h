@@ -18,6 +18,7 @@ class Career;
 class GameLogic;
 class OpenMenu;
 class PlayerSettings;
+class PressCatcher;
 class Resources;
 
 // Has no state of its own: it reads and writes the player's settings and which screen is open, shows the
@@ -42,9 +43,9 @@ public:
     enum class Screen { Main, Country, BcClass, Rules, About, Diary, Options, Leave, MatchResult, Hidden };
     Q_ENUM(Screen)
 
-    // All six must outlive it.
+    // All seven must outlive it.
     MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openMenu, Career& career,
-              Options& options, const Resources& resources);
+              Options& options, PressCatcher& catcher, const Resources& resources);
 
     [[nodiscard]] Screen screen() const;
     [[nodiscard]] bool isOpen() const;

@@ -16,6 +16,7 @@ enum class Option : std::uint8_t {
     switchPace,
     switchAsks,
     switchRest,
+    switchKey,
     courtButtons,
     controller,
     speech,
@@ -44,11 +45,13 @@ struct OptionRow {
     TextKey group;         // rows of one group stand together
     TextKey title;
     TextKey help; // one sentence
-    std::span<const OptionChoice> choices;
+    std::span<const OptionChoice>
+        choices;  // none: its value is a key that the player presses when asked, or 0
     int standard; // the value in the given game; one of the choices
 
     // Whether it is simply off (0) or on (1).
-    [[nodiscard]] bool isSwitch() const { return choices.front().label.empty(); }
+    [[nodiscard]] bool isSwitch() const { return !isKey() && choices.front().label.empty(); }
+    [[nodiscard]] bool isKey() const { return choices.empty(); }
 };
 
 // In the order in which they are shown, which is that of Option.

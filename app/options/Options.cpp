@@ -1,5 +1,7 @@
 #include "app/options/Options.h"
 
+#include "app/keys/PressedKey.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -8,6 +10,9 @@ namespace vorbel {
 namespace {
 
 bool isChoice(const OptionRow& row, int value) {
+    if (row.isKey()) {
+        return value == 0 || isFreeKey(value);
+    }
     return std::ranges::find(row.choices, value, &OptionChoice::value) != row.choices.end();
 }
 

@@ -1,5 +1,7 @@
 #include "app/options/OptionsModel.h"
 
+#include "app/keys/PressCatcher.h"
+#include "app/keys/PressedKey.h"
 #include "app/options/Options.h"
 #include "app/screen/OpenMenu.h"
 #include "app/settings/PlayerSettings.h"
@@ -35,25 +37,22 @@ QString labelOf(const OptionChoice& choice, AppLanguage language) {
                                       : std::string(label));
 }
 
-QStringList choicesOf(const OptionRow& row, AppLanguage language) {
-    QStringList labels;
-    for (const OptionChoice& choice : row.choices) {
-        labels.append(labelOf(choice, language));
-    }
-    return labels;
-}
-
 int placeOf(const OptionRow& row, int value) {
+    if (row.isKey()) {
+        return value == 0 ? 0 : 1;
+    }
     return static_cast<int>(std::ranges::find(row.choices, value, &OptionChoice::value) -
                             row.choices.begin());
 }
 
 } // namespace
 
-OptionsModel::OptionsModel(Options& options, const PlayerSettings& settings, OpenMenu& openMenu)
-    : options_(options), settings_(settings), openMenu_(openMenu) {
+OptionsModel::OptionsModel(Options& options, const PlayerSettings& settings, OpenMenu& openMenu,
+                           PressCatcher& catcher)
+    : options_(options), settings_(settings), openMenu_(openMenu), catcher_(catcher) {
     connect(&options_, &Options::changed, this, &OptionsModel::tellAll);
     connect(&options_, &Options::changed, this, &OptionsModel::inMainMenuChanged);
+    connect(&catcher_, &PressCatcher::waitingChanged, this, &OptionsModel::tellAll);
     connect(&settings_, &PlayerSettings::languageChanged, this, [this] {
         tellAll();
         emit languageChanged();
@@ -84,12 +83,31 @@ QVariant OptionsModel::data(const QModelIndex& index, int role) const {
     case IsSwitchRole:
         return row.isSwitch();
     case ChoicesRole:
-        return choicesOf(row, language);
+        return choicesOf(row);
     case ChosenRole:
         return placeOf(row, options_.value(row.option));
     default:
         return {};
     }
+}
+
+QStringList OptionsModel::choicesOf(const OptionRow& row) const {
+    if (row.isKey()) {
+        return keyChoices(options_.value(row.option));
+    }
+    QStringList labels;
+    for (const OptionChoice& choice : row.choices) {
+        labels.append(labelOf(choice, settings_.selectedLanguage()));
+    }
+    return labels;
+}
+
+// None, and the one that was pressed or is still to be.
+QStringList OptionsModel::keyChoices(int key) const {
+    const AppLanguage language = settings_.selectedLanguage();
+    return {text("options.none", language), catcher_.isWaiting() ? text("options.pressKey", language)
+                                            : key == 0           ? QStringLiteral("+")
+                                                                 : keyName(key, language)};
 }
 
 QHash<int, QByteArray> OptionsModel::roleNames() const {
@@ -110,8 +128,19 @@ void OptionsModel::choose(int row, int place) {
         return;
     }
     const OptionRow& option = rowAt(row);
-    if (place >= 0 && place < static_cast<int>(option.choices.size())) {
+    if (option.isKey()) {
+        chooseKey(option.option, place);
+    } else if (place >= 0 && place < static_cast<int>(option.choices.size())) {
         options_.set(option.option, option.choices[static_cast<std::size_t>(place)].value);
+    }
+}
+
+void OptionsModel::chooseKey(Option option, int place) {
+    if (place == 0) {
+        catcher_.giveUp();
+        options_.set(option, 0);
+    } else if (place == 1) {
+        catcher_.awaitKey([this, option](int key) { options_.set(option, key); });
     }
 }
 
@@ -123,6 +152,7 @@ void OptionsModel::open() {
 }
 
 void OptionsModel::close() {
+    catcher_.giveUp();
     openMenu_.setMenuScreen(openedFrom_);
 }
 

@@ -1,6 +1,7 @@
 // The options as their screen lists them.
 #pragma once
 
+#include "app/options/OptionTable.h"
 #include "app/screen/MenuScreen.h"
 #include "l10n/AppLanguage.h"
 
@@ -13,6 +14,7 @@ namespace vorbel {
 class OpenMenu;
 class Options;
 class PlayerSettings;
+class PressCatcher;
 
 // A row an option, in the player's language.
 class OptionsModel final : public QAbstractListModel {
@@ -33,8 +35,8 @@ public:
         ChosenRole,  // the place in it; of a switch 0 or 1
     };
 
-    // All three must outlive it.
-    OptionsModel(Options& options, const PlayerSettings& settings, OpenMenu& openMenu);
+    // All four must outlive it.
+    OptionsModel(Options& options, const PlayerSettings& settings, OpenMenu& openMenu, PressCatcher& catcher);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -44,7 +46,7 @@ public:
     // Whether the main menu leads here too: one switch does not reach the menu bar.
     [[nodiscard]] bool isInMainMenu() const;
 
-    Q_INVOKABLE void choose(int row, int place); // takes effect at once
+    Q_INVOKABLE void choose(int row, int place); // takes effect at once; a key is awaited
     Q_INVOKABLE void open();                     // shows the screen
     Q_INVOKABLE void close();                    // goes back to where it was opened
 
@@ -54,10 +56,14 @@ signals:
 
 private:
     void tellAll();
+    void chooseKey(Option option, int place);
+    [[nodiscard]] QStringList choicesOf(const OptionRow& row) const;
+    [[nodiscard]] QStringList keyChoices(int key) const;
 
     Options& options_;
     const PlayerSettings& settings_;
     OpenMenu& openMenu_;
+    PressCatcher& catcher_;
     MenuScreen openedFrom_ = MenuScreen::main;
 };
 

@@ -1,5 +1,7 @@
 #include "app/switch/OneSwitch.h"
 
+#include "app/keys/PressCatcher.h"
+#include "app/keys/PressedKey.h"
 #include "app/options/Options.h"
 #include "app/screen/OpenMenu.h"
 #include "app/settings/PlayerSettings.h"
@@ -15,24 +17,34 @@ namespace {
 
 constexpr double millisecond = 0.001; // s
 
-bool isSwitchKey(const QEvent& event) {
-    const int key = static_cast<const QKeyEvent&>(event).key();
-    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 } // namespace
 
 OneSwitch::OneSwitch(GameLogic& match, const Options& options, OpenMenu& openMenu,
-                     const PlayerSettings& settings, MainQueue& queue)
-    : options_(options), openMenu_(openMenu), settings_(settings), queue_(queue), throw_(match, options) {
+                     const PlayerSettings& settings, PressCatcher& catcher, MainQueue& queue)
+    : options_(options),
+      openMenu_(openMenu),
+      settings_(settings),
+      catcher_(catcher),
+      queue_(queue),
+      throw_(match, options) {
     connect(&options_, &Options::changed, this, &OneSwitch::followOptions);
     connect(&settings_, &PlayerSettings::languageChanged, this, &OneSwitch::changed);
+    connect(&catcher_, &PressCatcher::waitingChanged, this, &OneSwitch::changed);
     connect(&openMenu_, &OpenMenu::menuScreenChanged, this, [this] { beats_ = 0; });
     followOptions();
 }
 
 bool OneSwitch::isOn() const {
     return options_.isOn(Option::switchOn);
+}
+
+bool OneSwitch::isSwitch(int key) const {
+    return isOn() && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter ||
+                      (key != 0 && key == options_.value(Option::switchKey)));
+}
+
+bool OneSwitch::isSwitchKey(const QEvent& event) const {
+    return isSwitch(pressedKey(static_cast<const QKeyEvent&>(event)));
 }
 
 bool OneSwitch::isMenuOpen() const {
@@ -50,7 +62,7 @@ void OneSwitch::followOptions() {
 void OneSwitch::beat() {
     if (!isMenuOpen()) {
         throw_.beat();
-    } else if (menu_ && ++beats_ % SwitchThrow::beatsOfAChoice == 0) {
+    } else if (menu_ && !catcher_.isWaiting() && ++beats_ % SwitchThrow::beatsOfAChoice == 0) {
         menu_->advance();
     }
     emit changed();
@@ -91,6 +103,9 @@ QRectF OneSwitch::frame() const {
 QString OneSwitch::prompt() const {
     if (!isOn()) {
         return {};
+    }
+    if (catcher_.isWaiting()) {
+        return text("options.pressKey", settings_.selectedLanguage());
     }
     if (isMenuOpen()) {
         return frame().isEmpty() ? text("switch.resting", settings_.selectedLanguage()) : QString();

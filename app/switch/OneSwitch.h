@@ -19,8 +19,10 @@ namespace vorbel {
 
 class OpenMenu;
 class PlayerSettings;
+class PressCatcher;
 
-// The switch is Space, Return or a click anywhere; while the option is on they do nothing else. It is an event
+// The switch is Space, Return, a key of the player's own or a click anywhere; while the option is on they do nothing
+// else. It is an event
 // filter for the application, which the repeats of a held key must not reach. Main thread only.
 class OneSwitch final : public QObject {
     Q_OBJECT
@@ -32,9 +34,9 @@ class OneSwitch final : public QObject {
     Q_PROPERTY(QString prompt READ prompt NOTIFY changed FINAL)
 
 public:
-    // All five must outlive it.
+    // All six must outlive it.
     OneSwitch(GameLogic& match, const Options& options, OpenMenu& openMenu, const PlayerSettings& settings,
-              MainQueue& queue);
+              PressCatcher& catcher, MainQueue& queue);
 
     // The window whose menus are walked through, which must outlive this; without it only throws are made.
     void setWindow(QQuickWindow& window) { menu_.emplace(window); }
@@ -42,8 +44,9 @@ public:
     void press(); // ignored too soon after the last
 
     [[nodiscard]] bool isOn() const;
-    [[nodiscard]] QRectF frame() const;   // around what a press would take, in the window; may be empty
-    [[nodiscard]] QString prompt() const; // what a press would do; empty where that is seen
+    [[nodiscard]] bool isSwitch(int key) const; // while the option is on
+    [[nodiscard]] QRectF frame() const;         // around what a press would take, in the window; may be empty
+    [[nodiscard]] QString prompt() const;       // what a press would do; empty where that is seen
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
@@ -56,10 +59,12 @@ private:
     void rest();
     void act();
     [[nodiscard]] bool isMenuOpen() const;
+    [[nodiscard]] bool isSwitchKey(const QEvent& event) const;
 
     const Options& options_;
     OpenMenu& openMenu_;
     const PlayerSettings& settings_;
+    PressCatcher& catcher_;
     MainQueue& queue_;
     SwitchThrow throw_;
     std::optional<SwitchMenu> menu_;

@@ -33,13 +33,14 @@ ContentView::ContentView(const Platform& platform, UserDefaults& defaults, const
       soundNotes_(audio_, options_, settings_, platform.mainQueue),
       leaving_(gameLogic_, options_, settings_, openMenu_),
       matchOptions_(gameLogic_, options_, openMenu_),
-      oneSwitch_(gameLogic_, options_, openMenu_, settings_, platform.mainQueue),
+      catcher_(platform.mainQueue),
+      oneSwitch_(gameLogic_, options_, openMenu_, settings_, catcher_, platform.mainQueue),
       career_(defaults, platform.random),
       recorder_(gameLogic_, career_, [this] { openMenu_.setMenuScreen(MenuScreen::matchResult); }),
       changes_(gameLogic_, platform.mainQueue),
       sightOptions_(gameLogic_.scene, options_, changes_),
       keyboard_(gameLogic_, openMenu_),
-      menu_(gameLogic_, settings_, openMenu_, career_, options_, platform_.resources) {
+      menu_(gameLogic_, settings_, openMenu_, career_, options_, catcher_, platform_.resources) {
     connect(&changes_, &MatchChanges::changed, this, &ContentView::refresh);
     connect(&settings_, &PlayerSettings::choicesChanged, &changes_, &MatchChanges::tellSoon);
     refresh();

@@ -4,6 +4,7 @@
 #include "app/career/Career.h"
 #include "app/career/CareerRecorder.h"
 #include "app/hud/HudModel.h"
+#include "app/keys/PressCatcher.h"
 #include "app/match/MatchChanges.h"
 #include "app/menu/MenuModel.h"
 #include "app/options/LeaveQuestion.h"
@@ -76,6 +77,7 @@ public:
     [[nodiscard]] SoundNotes* soundNotes() { return &soundNotes_; }
     [[nodiscard]] LeaveQuestion* leaving() { return &leaving_; }
     [[nodiscard]] OneSwitch* oneSwitch() { return &oneSwitch_; }
+    [[nodiscard]] PressCatcher& catcher() { return catcher_; }
     [[nodiscard]] Announcer* announcer() { return &announcer_; }
     [[nodiscard]] MenuModel* menu() { return &menu_; }
 
@@ -93,6 +95,7 @@ private:
     OpenMenu openMenu_;
     LeaveQuestion leaving_;
     MatchOptions matchOptions_;
+    PressCatcher catcher_;
     OneSwitch oneSwitch_;
     Career career_;
     CareerRecorder recorder_;

@@ -1,5 +1,7 @@
 #include "app/window/HeldKeys.h"
 
+#include "app/keys/PressedKey.h"
+
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -11,10 +13,6 @@ namespace {
 
 constexpr std::array keysThatMove{Qt::Key_Left, Qt::Key_Right,   Qt::Key_Up,     Qt::Key_Down,
                                   Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_PageUp, Qt::Key_PageDown};
-
-bool moves(const QKeyEvent& event) {
-    return std::ranges::find(keysThatMove, event.key()) != keysThatMove.end();
-}
 
 } // namespace
 
@@ -28,7 +26,7 @@ bool HeldKeys::holdBack(QEvent& event) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress: {
         const auto& press = static_cast<const QKeyEvent&>(event);
-        const bool heldBack = isRepeat(press) && !moves(press);
+        const bool heldBack = isRepeat(press) && !moves_(pressedKey(press));
         event.setAccepted(heldBack || event.isAccepted()); // accepted: the toolkit looks for no shortcut
         return heldBack;
     }
@@ -39,6 +37,10 @@ bool HeldKeys::holdBack(QEvent& event) {
 
 HeldKeys::Stroke HeldKeys::strokeOf(const QKeyEvent& event) {
     return {event.key(), event.nativeScanCode(), event.timestamp()};
+}
+
+bool HeldKeys::movesInMenus(int key) {
+    return std::ranges::find(keysThatMove, key) != keysThatMove.end();
 }
 
 bool HeldKeys::isRepeat(const QKeyEvent& press) const {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 
 class QEvent;
 class QKeyEvent;
@@ -17,6 +19,12 @@ namespace vorbel {
 // what has no time has been judged.
 class HeldKeys {
 public:
+    // Whether a key moves something in every menu.
+    [[nodiscard]] static bool movesInMenus(int key);
+
+    // Whether a key moves something, where that is for the player to say. Until then it is as in menus.
+    void setMoving(std::function<bool(int key)> moves) { moves_ = std::move(moves); }
+
     // Whether this is a repeat that must go no further.
     [[nodiscard]] bool holdBack(QEvent& event);
 
@@ -32,6 +40,7 @@ private:
     [[nodiscard]] static Stroke strokeOf(const QKeyEvent& event);
     [[nodiscard]] bool isRepeat(const QKeyEvent& press) const;
 
+    std::function<bool(int key)> moves_ = &movesInMenus;
     Stroke lastRelease_;
 };
 

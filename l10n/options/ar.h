@@ -26,6 +26,10 @@ inline constexpr auto ar = std::to_array<Text>({
     {"options.switchAsks.help", "يتيح لك إعادة التصويب قبل رمي الكرة."},
     {"options.switchRest", "مهلة بعد الضغط"},
     {"options.switchRest.help", "لا تُحتسب ضغطة ثانية قبل انقضاء هذه المهلة."},
+    {"options.switchKey", "مفتاح إضافي"},
+    {"options.switchKey.help", "مفتاح آخر يقوم مقام الزر: اختر هذا ثم اضغط المفتاح."},
+    {"options.pressKey", "اضغط مفتاحًا…"},
+    {"options.none", "لا يوجد"},
     {"options.seconds.format", "%@ ث"},
 
     {"options.devices", "الفأرة ووحدة التحكم"},
@@ -84,6 +88,8 @@ inline constexpr auto ar = std::to_array<Text>({
     {"switch.again", "اضغط لإعادة التصويب"},
     {"switch.goOn", "اضغط للمتابعة"},
     {"switch.resting", "اضغط لاستئناف الاختيار"},
+
+    {"key.space", "المسافة"},
 
     {"sound.throw", "رمية"},
     {"sound.hit", "كرة تصطدم بكرة"},

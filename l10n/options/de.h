@@ -28,6 +28,11 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.switchAsks.help", "Vor dem Abwurf kannst du noch einmal neu zielen."},
     {"options.switchRest", "Pause nach dem Drücken"},
     {"options.switchRest.help", "Drückst du in dieser Zeit noch einmal, zählt es nicht."},
+    {"options.switchKey", "Weitere Taste"},
+    {"options.switchKey.help", "Noch eine Taste, die als Taster dient: erst hier auswählen, dann die Taste "
+                               "drücken."},
+    {"options.pressKey", "Taste drücken …"},
+    {"options.none", "Keine"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Maus und Controller"},
@@ -87,6 +92,8 @@ inline constexpr auto de = std::to_array<Text>({
     {"switch.again", "Drücke, um neu zu zielen"},
     {"switch.goOn", "Drücke, um weiterzumachen"},
     {"switch.resting", "Drücke, damit die Auswahl weiterläuft"},
+
+    {"key.space", "Leertaste"},
 
     {"sound.throw", "Wurf"},
     {"sound.hit", "Ball trifft Ball"},

@@ -28,6 +28,10 @@ inline constexpr auto el = std::to_array<Text>({
     {"options.switchAsks.help", "Πριν φύγει η μπάλα, μπορείτε να σημαδέψετε ξανά."},
     {"options.switchRest", "Παύση μετά το πάτημα"},
     {"options.switchRest.help", "Δεύτερο πάτημα μέσα σε αυτόν τον χρόνο δεν μετράει."},
+    {"options.switchKey", "Ένα ακόμη πλήκτρο"},
+    {"options.switchKey.help", "Επιπλέον πλήκτρο αντί για το κουμπί: διαλέξτε το εδώ και ύστερα πατήστε το."},
+    {"options.pressKey", "Πατήστε ένα πλήκτρο..."},
+    {"options.none", "Κανένα"},
     {"options.seconds.format", "%@ δευτ."},
 
     {"options.devices", "Ποντίκι και χειριστήριο"},
@@ -87,6 +91,8 @@ inline constexpr auto el = std::to_array<Text>({
     {"switch.again", "Πατήστε για να σημαδέψετε ξανά"},
     {"switch.goOn", "Πατήστε για να συνεχίσετε"},
     {"switch.resting", "Πατήστε για να ξαναρχίσει η επιλογή"},
+
+    {"key.space", "Διάστημα"},
 
     {"sound.throw", "Ρίψη"},
     {"sound.hit", "Μπάλα χτυπά μπάλα"},

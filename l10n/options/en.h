@@ -27,6 +27,10 @@ inline constexpr auto en = std::to_array<Text>({
     {"options.switchAsks.help", "Offers to aim again before the ball is released."},
     {"options.switchRest", "Rest after a press"},
     {"options.switchRest.help", "A press that follows the last one sooner does not count."},
+    {"options.switchKey", "One more key"},
+    {"options.switchKey.help", "A further key that acts as the switch: choose this, then press the key."},
+    {"options.pressKey", "Press a key …"},
+    {"options.none", "None"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Mouse and controller"},
@@ -85,6 +89,8 @@ inline constexpr auto en = std::to_array<Text>({
     {"switch.again", "Press to aim again"},
     {"switch.goOn", "Press to go on"},
     {"switch.resting", "Press to wake the choice"},
+
+    {"key.space", "Space"},
 
     {"sound.throw", "Throw"},
     {"sound.hit", "Ball hits ball"},

@@ -27,6 +27,10 @@ inline constexpr auto es = std::to_array<Text>({
     {"options.switchAsks.help", "Antes de soltar la bola puedes volver a apuntar."},
     {"options.switchRest", "Pausa tras pulsar"},
     {"options.switchRest.help", "Si vuelves a pulsar durante esa pausa, no cuenta."},
+    {"options.switchKey", "Una tecla más"},
+    {"options.switchKey.help", "Otra tecla que hace de pulsador: elige esto y luego pulsa la tecla."},
+    {"options.pressKey", "Pulsa una tecla..."},
+    {"options.none", "Ninguna"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Ratón y mando"},
@@ -87,6 +91,8 @@ inline constexpr auto es = std::to_array<Text>({
     {"switch.again", "Pulsa para volver a apuntar"},
     {"switch.goOn", "Pulsa para seguir"},
     {"switch.resting", "Pulsa para que sigan pasando las opciones"},
+
+    {"key.space", "Espacio"},
 
     {"sound.throw", "Lanzamiento"},
     {"sound.hit", "Choque de bolas"},

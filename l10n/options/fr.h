@@ -28,6 +28,11 @@ inline constexpr auto fr = std::to_array<Text>({
     {"options.switchAsks.help", "Avant de lâcher la balle, vous pouvez viser à nouveau."},
     {"options.switchRest", "Pause après un appui"},
     {"options.switchRest.help", "Un nouvel appui avant la fin de cette pause ne compte pas."},
+    {"options.switchKey", "Une touche de plus"},
+    {"options.switchKey.help", "Une autre touche qui sert de contacteur : choisissez ceci, puis appuyez sur "
+                               "la touche."},
+    {"options.pressKey", "Appuyez sur une touche…"},
+    {"options.none", "Aucune"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Souris et manette"},
@@ -88,6 +93,8 @@ inline constexpr auto fr = std::to_array<Text>({
     {"switch.again", "Appuyez pour viser à nouveau"},
     {"switch.goOn", "Appuyez pour continuer"},
     {"switch.resting", "Appuyez pour reprendre le défilement"},
+
+    {"key.space", "Espace"},
 
     {"sound.throw", "Lancer"},
     {"sound.hit", "Choc de balles"},

@@ -25,6 +25,10 @@ inline constexpr auto hi = std::to_array<Text>({
     {"options.switchAsks.help", "गेंद छोड़ने से पहले फिर से निशाना साधने का मौका मिलता है।"},
     {"options.switchRest", "दबाने के बाद विराम"},
     {"options.switchRest.help", "इतने समय के भीतर दोबारा दबाया तो गिना नहीं जाता।"},
+    {"options.switchKey", "एक और कुंजी"},
+    {"options.switchKey.help", "स्विच का काम करने वाली एक और कुंजी: इसे चुनें, फिर वह कुंजी दबाएँ।"},
+    {"options.pressKey", "कोई कुंजी दबाएँ..."},
+    {"options.none", "कोई नहीं"},
     {"options.seconds.format", "%@ सेकंड"},
 
     {"options.devices", "माउस और कंट्रोलर"},
@@ -83,6 +87,8 @@ inline constexpr auto hi = std::to_array<Text>({
     {"switch.again", "फिर से निशाना साधने के लिए दबाएँ"},
     {"switch.goOn", "आगे बढ़ने के लिए दबाएँ"},
     {"switch.resting", "फिर से चुनने के लिए दबाएँ"},
+
+    {"key.space", "स्पेस"},
 
     {"sound.throw", "थ्रो"},
     {"sound.hit", "गेंद से गेंद टकराई"},

@@ -27,6 +27,11 @@ inline constexpr auto id = std::to_array<Text>({
     {"options.switchAsks.help", "Anda bisa membidik lagi sebelum bola dilepas."},
     {"options.switchRest", "Jeda setelah menekan"},
     {"options.switchRest.help", "Tekanan berikutnya dalam waktu ini tidak dihitung."},
+    {"options.switchKey", "Tombol tambahan"},
+    {"options.switchKey.help",
+     "Tombol lain yang berfungsi sebagai sakelar: pilih ini, lalu tekan tombolnya."},
+    {"options.pressKey", "Tekan sebuah tombol..."},
+    {"options.none", "Tidak ada"},
     {"options.seconds.format", "%@ detik"},
 
     {"options.devices", "Mouse dan kontroler"},
@@ -86,6 +91,8 @@ inline constexpr auto id = std::to_array<Text>({
     {"switch.again", "Tekan untuk membidik lagi"},
     {"switch.goOn", "Tekan untuk lanjut"},
     {"switch.resting", "Tekan untuk memilih lagi"},
+
+    {"key.space", "Spasi"},
 
     {"sound.throw", "Bola dilempar"},
     {"sound.hit", "Bola membentur bola"},

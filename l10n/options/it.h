@@ -28,6 +28,10 @@ inline constexpr auto it = std::to_array<Text>({
     {"options.switchAsks.help", "Prima di lasciare la boccia puoi mirare di nuovo."},
     {"options.switchRest", "Pausa dopo ogni pressione"},
     {"options.switchRest.help", "Se premi di nuovo durante la pausa, non conta."},
+    {"options.switchKey", "Un tasto in più"},
+    {"options.switchKey.help", "Un altro tasto che fa da sensore: scegli questa voce, poi premi il tasto."},
+    {"options.pressKey", "Premi un tasto..."},
+    {"options.none", "Nessuno"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Mouse e controller"},
@@ -88,6 +92,8 @@ inline constexpr auto it = std::to_array<Text>({
     {"switch.again", "Premi per mirare di nuovo"},
     {"switch.goOn", "Premi per continuare"},
     {"switch.resting", "Premi per far ripartire le scelte"},
+
+    {"key.space", "Spazio"},
 
     {"sound.throw", "Lancio"},
     {"sound.hit", "Urto tra bocce"},

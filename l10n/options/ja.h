@@ -26,6 +26,11 @@ inline constexpr auto ja = std::to_array<Text>({
     {"options.switchAsks.help", "ボールを放す前に、狙い直すこともできます。"},
     {"options.switchRest", "押したあとの間隔"},
     {"options.switchRest.help", "この時間内にもう一度押しても無視されます。"},
+    {"options.switchKey", "スイッチのキーを追加"},
+    {"options.switchKey.help",
+     "スイッチとして使うキーを増やします。これを選んでから、キーを押してください。"},
+    {"options.pressKey", "キーを押してください…"},
+    {"options.none", "なし"},
     {"options.seconds.format", "%@秒"},
 
     {"options.devices", "マウスとコントローラー"},
@@ -85,6 +90,8 @@ inline constexpr auto ja = std::to_array<Text>({
     {"switch.again", "押して狙い直す"},
     {"switch.goOn", "押して次へ"},
     {"switch.resting", "押して選択を再開"},
+
+    {"key.space", "スペース"},
 
     {"sound.throw", "投球の音"},
     {"sound.hit", "ボールが当たる音"},

@@ -26,6 +26,10 @@ inline constexpr auto ko = std::to_array<Text>({
     {"options.switchAsks.help", "공을 놓기 전에 다시 조준할 수 있게 합니다."},
     {"options.switchRest", "누른 뒤 쉬는 시간"},
     {"options.switchRest.help", "이 시간 안에 다시 누르면 무시합니다."},
+    {"options.switchKey", "스위치 키 추가"},
+    {"options.switchKey.help", "스위치로 쓸 키를 추가합니다. 이 항목을 고른 다음 키를 누르세요."},
+    {"options.pressKey", "키를 누르세요..."},
+    {"options.none", "없음"},
     {"options.seconds.format", "%@초"},
 
     {"options.devices", "마우스와 컨트롤러"},
@@ -84,6 +88,8 @@ inline constexpr auto ko = std::to_array<Text>({
     {"switch.again", "누르면 다시 조준합니다"},
     {"switch.goOn", "누르면 계속합니다"},
     {"switch.resting", "누르면 선택을 다시 시작합니다"},
+
+    {"key.space", "스페이스바"},
 
     {"sound.throw", "투구 소리"},
     {"sound.hit", "공끼리 부딪치는 소리"},

@@ -28,6 +28,10 @@ inline constexpr auto nl = std::to_array<Text>({
     {"options.switchAsks.help", "Je kunt nog opnieuw richten voordat de bal wordt losgelaten."},
     {"options.switchRest", "Pauze na het drukken"},
     {"options.switchRest.help", "Druk je binnen deze tijd nog een keer, dan telt dat niet."},
+    {"options.switchKey", "Extra toets"},
+    {"options.switchKey.help", "Nog een toets die als schakelaar werkt: kies dit en druk dan op de toets."},
+    {"options.pressKey", "Druk op een toets..."},
+    {"options.none", "Geen"},
     {"options.seconds.format", "%@ sec"},
 
     {"options.devices", "Muis en controller"},
@@ -88,6 +92,8 @@ inline constexpr auto nl = std::to_array<Text>({
     {"switch.again", "Druk om opnieuw te richten"},
     {"switch.goOn", "Druk om verder te gaan"},
     {"switch.resting", "Druk om weer te kiezen"},
+
+    {"key.space", "Spatie"},
 
     {"sound.throw", "Worp"},
     {"sound.hit", "Bal raakt bal"},

@@ -28,6 +28,11 @@ inline constexpr auto pl = std::to_array<Text>({
     {"options.switchAsks.help", "Przed rzutem możesz jeszcze wycelować od nowa."},
     {"options.switchRest", "Przerwa po naciśnięciu"},
     {"options.switchRest.help", "Kolejne naciśnięcie w tym czasie się nie liczy."},
+    {"options.switchKey", "Dodatkowy klawisz"},
+    {"options.switchKey.help",
+     "Jeszcze jeden klawisz zamiast przycisku: wybierz tę opcję, a potem go naciśnij."},
+    {"options.pressKey", "Naciśnij klawisz…"},
+    {"options.none", "Brak"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Mysz i kontroler"},
@@ -88,6 +93,8 @@ inline constexpr auto pl = std::to_array<Text>({
     {"switch.again", "Naciśnij, aby celować od nowa"},
     {"switch.goOn", "Naciśnij, aby przejść dalej"},
     {"switch.resting", "Naciśnij, aby wznowić wybór"},
+
+    {"key.space", "Spacja"},
 
     {"sound.throw", "Rzut"},
     {"sound.hit", "Bila uderza w bilę"},

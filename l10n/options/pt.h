@@ -27,6 +27,11 @@ inline constexpr auto pt = std::to_array<Text>({
     {"options.switchAsks.help", "Antes de soltar a bola, dá para mirar de novo."},
     {"options.switchRest", "Pausa depois de pressionar"},
     {"options.switchRest.help", "Se você pressionar de novo durante a pausa, não conta."},
+    {"options.switchKey", "Mais uma tecla"},
+    {"options.switchKey.help", "Outra tecla que serve de acionador: escolha esta opção e depois pressione a "
+                               "tecla."},
+    {"options.pressKey", "Pressione uma tecla..."},
+    {"options.none", "Nenhuma"},
     {"options.seconds.format", "%@ s"},
 
     {"options.devices", "Mouse e controle"},
@@ -86,6 +91,8 @@ inline constexpr auto pt = std::to_array<Text>({
     {"switch.again", "Pressione para mirar de novo"},
     {"switch.goOn", "Pressione para continuar"},
     {"switch.resting", "Pressione para as opções voltarem a passar"},
+
+    {"key.space", "Espaço"},
 
     {"sound.throw", "Lançamento"},
     {"sound.hit", "Choque de bolas"},

@@ -27,6 +27,10 @@ inline constexpr auto ru = std::to_array<Text>({
     {"options.switchAsks.help", "Перед броском можно прицелиться заново."},
     {"options.switchRest", "Пауза после нажатия"},
     {"options.switchRest.help", "Повторное нажатие в течение этого времени не засчитывается."},
+    {"options.switchKey", "Ещё одна клавиша"},
+    {"options.switchKey.help", "Дополнительная клавиша вместо кнопки: выберите этот пункт и нажмите её."},
+    {"options.pressKey", "Нажмите клавишу…"},
+    {"options.none", "Не выбрано"},
     {"options.seconds.format", "%@ с"},
 
     {"options.devices", "Мышь и контроллер"},
@@ -85,6 +89,8 @@ inline constexpr auto ru = std::to_array<Text>({
     {"switch.again", "Нажмите, чтобы прицелиться заново"},
     {"switch.goOn", "Нажмите, чтобы продолжить"},
     {"switch.resting", "Нажмите, чтобы возобновить выбор"},
+
+    {"key.space", "Пробел"},
 
     {"sound.throw", "Бросок"},
     {"sound.hit", "Удар мяча о мяч"},

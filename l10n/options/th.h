@@ -26,6 +26,10 @@ inline constexpr auto th = std::to_array<Text>({
     {"options.switchAsks.help", "ให้เลือกเล็งใหม่ได้ก่อนปล่อยลูก"},
     {"options.switchRest", "เวลาพักหลังกด"},
     {"options.switchRest.help", "หากกดซ้ำภายในเวลานี้จะไม่นับ"},
+    {"options.switchKey", "เพิ่มปุ่มสวิตช์"},
+    {"options.switchKey.help", "เพิ่มอีกปุ่มเพื่อใช้เป็นสวิตช์: เลือกรายการนี้ แล้วกดปุ่มที่ต้องการ"},
+    {"options.pressKey", "กดปุ่มที่ต้องการ..."},
+    {"options.none", "ไม่มี"},
     {"options.seconds.format", "%@ วินาที"},
 
     {"options.devices", "เมาส์และคอนโทรลเลอร์"},
@@ -84,6 +88,8 @@ inline constexpr auto th = std::to_array<Text>({
     {"switch.again", "กดเพื่อเล็งใหม่"},
     {"switch.goOn", "กดเพื่อไปต่อ"},
     {"switch.resting", "กดเพื่อให้ตัวเลือกเลื่อนต่อ"},
+
+    {"key.space", "สเปซบาร์"},
 
     {"sound.throw", "เสียงโยน"},
     {"sound.hit", "เสียงลูกกระทบกัน"},

@@ -27,6 +27,10 @@ inline constexpr auto tr = std::to_array<Text>({
     {"options.switchAsks.help", "Top bırakılmadan önce yeniden nişan alabilirsin."},
     {"options.switchRest", "Bastıktan sonra ara"},
     {"options.switchRest.help", "Bu süre dolmadan yeniden basarsan sayılmaz."},
+    {"options.switchKey", "Ek tuş"},
+    {"options.switchKey.help", "Düğme yerine geçecek bir tuş daha: bunu seç, sonra o tuşa bas."},
+    {"options.pressKey", "Bir tuşa bas…"},
+    {"options.none", "Yok"},
     {"options.seconds.format", "%@ sn"},
 
     {"options.devices", "Fare ve oyun kolu"},
@@ -85,6 +89,8 @@ inline constexpr auto tr = std::to_array<Text>({
     {"switch.again", "Yeniden nişan almak için bas"},
     {"switch.goOn", "Devam etmek için bas"},
     {"switch.resting", "Seçime dönmek için bas"},
+
+    {"key.space", "Boşluk"},
 
     {"sound.throw", "Atış"},
     {"sound.hit", "Top topa çarptı"},

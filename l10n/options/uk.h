@@ -27,6 +27,10 @@ inline constexpr auto uk = std::to_array<Text>({
     {"options.switchAsks.help", "Перед кидком можна прицілитися ще раз."},
     {"options.switchRest", "Пауза після натискання"},
     {"options.switchRest.help", "Повторне натискання протягом цього часу не зараховується."},
+    {"options.switchKey", "Ще одна клавіша"},
+    {"options.switchKey.help", "Додаткова клавіша замість кнопки: виберіть цей пункт і натисніть її."},
+    {"options.pressKey", "Натисніть клавішу…"},
+    {"options.none", "Не вибрано"},
     {"options.seconds.format", "%@ с"},
 
     {"options.devices", "Миша й контролер"},
@@ -85,6 +89,8 @@ inline constexpr auto uk = std::to_array<Text>({
     {"switch.again", "Натисніть, щоб прицілитися ще раз"},
     {"switch.goOn", "Натисніть, щоб продовжити"},
     {"switch.resting", "Натисніть, щоб відновити вибір"},
+
+    {"key.space", "Пробіл"},
 
     {"sound.throw", "Кидок"},
     {"sound.hit", "Удар м’яча об м’яч"},

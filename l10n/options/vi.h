@@ -28,6 +28,10 @@ inline constexpr auto vi = std::to_array<Text>({
     {"options.switchAsks.help", "Bạn có thể ngắm lại trước khi thả bóng."},
     {"options.switchRest", "Nghỉ sau mỗi lần nhấn"},
     {"options.switchRest.help", "Nhấn lại trong khoảng thời gian này sẽ không được tính."},
+    {"options.switchKey", "Thêm một phím"},
+    {"options.switchKey.help", "Một phím nữa dùng làm công tắc: chọn mục này rồi nhấn phím đó."},
+    {"options.pressKey", "Nhấn một phím..."},
+    {"options.none", "Không có"},
     {"options.seconds.format", "%@ giây"},
 
     {"options.devices", "Chuột và tay cầm"},
@@ -86,6 +90,8 @@ inline constexpr auto vi = std::to_array<Text>({
     {"switch.again", "Nhấn để ngắm lại"},
     {"switch.goOn", "Nhấn để tiếp tục"},
     {"switch.resting", "Nhấn để chọn tiếp"},
+
+    {"key.space", "Phím cách"},
 
     {"sound.throw", "Tiếng ném"},
     {"sound.hit", "Bóng chạm bóng"},

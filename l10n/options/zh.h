@@ -25,6 +25,10 @@ inline constexpr auto zh = std::to_array<Text>({
     {"options.switchAsks.help", "球出手前，可以选择重新瞄准。"},
     {"options.switchRest", "按下后的间隔"},
     {"options.switchRest.help", "在这段时间内再次按下不算数。"},
+    {"options.switchKey", "再加一个按键"},
+    {"options.switchKey.help", "另设一个键作为开关：选择此项，然后按下那个键。"},
+    {"options.pressKey", "请按一个键……"},
+    {"options.none", "无"},
     {"options.seconds.format", "%@秒"},
 
     {"options.devices", "鼠标与手柄"},
@@ -83,6 +87,8 @@ inline constexpr auto zh = std::to_array<Text>({
     {"switch.again", "按一下重新瞄准"},
     {"switch.goOn", "按一下继续"},
     {"switch.resting", "按一下，选项继续轮换"},
+
+    {"key.space", "空格"},
 
     {"sound.throw", "投球声"},
     {"sound.hit", "球碰球声"},

@@ -72,15 +72,14 @@ ColumnLayout {
             spacing: Theme.gap
 
             Repeater {
-                model: row.isSwitch ? [] : row.choices
+                model: row.isSwitch ? 0 : row.choices.length // one that only gets another text keeps the keyboard
 
                 ChoiceButton {
                     id: choice
 
                     required property int index
-                    required property string modelData
 
-                    text: modelData
+                    text: row.choices[index] ?? ""
                     horizontalPadding: 12
                     verticalPadding: 5
                     selected: index === row.chosen

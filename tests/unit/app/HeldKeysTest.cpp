@@ -84,4 +84,10 @@ TEST_F(HeldKeysTest, AllOthersAreOneCommandAPress) {
     }
 }
 
+TEST_F(HeldKeysTest, WhichKeysMoveSomethingCanBeSaid) {
+    heldKeys.setMoving([](int key) { return key == Qt::Key_A; });
+    EXPECT_TRUE(swallows(QEvent::KeyPress, Qt::Key_Left, 1700, true));
+    EXPECT_FALSE(swallows(QEvent::KeyPress, Qt::Key_A, 1700, true));
+}
+
 } // namespace vorbel

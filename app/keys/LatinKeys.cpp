@@ -1,4 +1,4 @@
-#include "app/window/LatinKeys.h"
+#include "app/keys/LatinKeys.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

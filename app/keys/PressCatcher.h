@@ -1,0 +1,45 @@
+// Waits for the one press that the player gives a meaning.
+#pragma once
+
+#include "platform/runloop/Lifetime.h"
+#include "platform/runloop/MainQueue.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace vorbel {
+
+// While it waits no press reaches anything else. Escape, a click and patience that ends leave everything as it was.
+// Main thread only.
+class PressCatcher final : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr double patience = 10; // s: not everybody can press Escape
+
+    // The queue must outlive it.
+    explicit PressCatcher(MainQueue& queue) : queue_(queue) {}
+
+    // The key, as pressedKey() has it, is given to `taken` once it is pressed; never, if that is given up.
+    void awaitKey(std::function<void(int key)> taken);
+    void giveUp(); // without effect unless it waits
+
+    [[nodiscard]] bool isWaiting() const { return taken_ != nullptr; }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override; // of the application, while it waits
+
+signals:
+    void waitingChanged();
+
+private:
+    void take(int key);
+    void stop();
+
+    MainQueue& queue_;
+    std::function<void(int)> taken_; // null unless it waits
+    int attempts_ = 0;               // so far
+    Lifetime lifetime_;
+};
+
+} // namespace vorbel
