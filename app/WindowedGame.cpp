@@ -40,8 +40,14 @@ std::optional<LastSession>& lastSession() {
 
 // What of the keys the player has changed goes with the view.
 std::function<bool(int)> movingKeys(ContentView& view) {
-    return [one = QPointer(view.oneSwitch())](int key) {
-        return HeldKeys::movesInMenus(key) && !(one && one->isSwitch(key));
+    return [view = QPointer(&view)](int key) {
+        if (view.isNull() || view->oneSwitch()->isSwitch(key)) {
+            return view.isNull() && HeldKeys::movesInMenus(key);
+        }
+        const GameControls& controls = *view->controls();
+        const bool isOfMatch =
+            view->openMenu().isHidden() && controls.of(GameControls::Device::keyboard).actionOf(key);
+        return isOfMatch ? controls.repeats(key) : HeldKeys::movesInMenus(key);
     };
 }
 

@@ -8,14 +8,6 @@
 
 namespace vorbel {
 
-namespace {
-
-bool isDirection(ControllerButton button) {
-    return button >= ControllerButton::left;
-}
-
-} // namespace
-
 ControllerInput::ControllerInput(Controllers& controllers, ContentView& view, MainQueue& queue)
     : controllers_(controllers), view_(view), queue_(queue) {
     look();
@@ -32,6 +24,15 @@ void ControllerInput::look() {
     queue_.postAfter(often ? period : idlePeriod, lifetime_.whileAlive([this] { look(); }));
 }
 
+std::optional<GameAction> ControllerInput::actionOf(ControllerButton button) const {
+    constexpr auto second = static_cast<ControllerButton>(static_cast<int>(ControllerButton::first) + 1);
+    const auto given =
+        view_.controls()->of(GameControls::Device::controller).actionOf(static_cast<int>(button));
+    return given || !isNumbered(button) ? given
+           : button == second           ? GameAction::takeBack
+                                        : GameAction::accept;
+}
+
 void ControllerInput::handle(ControllerButton button, bool pressed) {
     if (!pressed) {
         if (held_ == button) {
@@ -39,63 +40,89 @@ void ControllerInput::handle(ControllerButton button, bool pressed) {
         }
         return;
     }
+    view_.useController(controllers_.family());
+    if (view_.catcher().isWaiting()) {
+        return view_.catcher().pressButton(static_cast<int>(button));
+    }
     if (view_.oneSwitch()->isOn()) {
         return view_.oneSwitch()->press();
     }
-    if (isDirection(button)) {
-        held_ = button;
-        untilRepeat_ = repeatDelay;
+    if (const auto action = actionOf(button)) {
+        if (rowOf(*action).repeats) {
+            held_ = button;
+            untilRepeat_ = repeatDelay;
+        }
+        press(*action);
     }
-    press(button);
 }
 
 void ControllerInput::repeat() {
     if (held_ && (untilRepeat_ -= period) <= 0) {
         untilRepeat_ += repeatPeriod;
-        press(*held_);
+        if (const auto action = actionOf(*held_)) {
+            press(*action);
+        }
     }
 }
 
-void ControllerInput::press(ControllerButton button) {
-    view_.openMenu().isHidden() ? pressInMatch(button) : pressInMenu(button);
+void ControllerInput::press(GameAction action) {
+    if (action == GameAction::mute) {
+        view_.options()->toggleMute();
+    } else if (view_.openMenu().isHidden()) {
+        pressInMatch(action);
+    } else {
+        pressInMenu(action);
+        view_.useController(controllers_.family()); // though a menu was sent a key
+    }
 }
 
-void ControllerInput::pressInMatch(ControllerButton button) {
+void ControllerInput::pressInMatch(GameAction action) {
     Keyboard& keys = *view_.keyboard();
-    switch (button) {
-    case ControllerButton::accept:
-        return keys.pressAction();
-    case ControllerButton::back:
-        return keys.pressTakeBack();
-    case ControllerButton::menu:
-        return view_.openMenu().setMenuScreen(MenuScreen::main);
-    case ControllerButton::left:
+    switch (action) {
+    case GameAction::left:
         return keys.pressLeft();
-    case ControllerButton::right:
+    case GameAction::right:
         return keys.pressRight();
-    case ControllerButton::up:
+    case GameAction::up:
         return keys.pressUp();
-    case ControllerButton::down:
+    case GameAction::down:
         return keys.pressDown();
-    case ControllerButton::other:
+    case GameAction::accept:
+        return keys.pressAction();
+    case GameAction::takeBack:
+        return keys.pressTakeBack();
+    case GameAction::morePower:
+        return keys.pressPageUp();
+    case GameAction::lessPower:
+        return keys.pressPageDown();
+    case GameAction::everything:
+        return keys.pressEverything();
+    case GameAction::menu:
+        return keys.pressMenu();
+    case GameAction::mute:
         return;
     }
 }
 
-void ControllerInput::pressInMenu(ControllerButton button) {
-    switch (button) {
-    case ControllerButton::accept:
+void ControllerInput::pressInMenu(GameAction action) {
+    switch (action) {
+    case GameAction::accept:
         return emit keyPressed(Qt::Key_Return);
-    case ControllerButton::back:
+    case GameAction::takeBack:
         return goBack();
-    case ControllerButton::left:
-    case ControllerButton::up:
+    case GameAction::left:
+    case GameAction::up:
         return emit keyPressed(Qt::Key_Backtab);
-    case ControllerButton::right:
-    case ControllerButton::down:
+    case GameAction::right:
+    case GameAction::down:
         return emit keyPressed(Qt::Key_Tab);
-    case ControllerButton::menu:
-    case ControllerButton::other:
+    case GameAction::morePower:
+        return emit keyPressed(Qt::Key_PageUp);
+    case GameAction::lessPower:
+        return emit keyPressed(Qt::Key_PageDown);
+    case GameAction::everything:
+    case GameAction::mute:
+    case GameAction::menu:
         return;
     }
 }
@@ -104,6 +131,8 @@ void ControllerInput::goBack() {
     switch (view_.openMenu().menuScreen()) {
     case MenuScreen::options:
         return view_.menu()->options()->close();
+    case MenuScreen::controls:
+        return view_.menu()->controls()->close();
     case MenuScreen::leave:
         return view_.leaving()->cancel();
     case MenuScreen::main:

@@ -1,6 +1,7 @@
 // The whole game with a controller.
 #pragma once
 
+#include "app/keys/GameAction.h"
 #include "platform/controllers/Controllers.h"
 #include "platform/runloop/Lifetime.h"
 #include "platform/runloop/MainQueue.h"
@@ -15,10 +16,10 @@ namespace vorbel {
 
 class ContentView;
 
-// In a match the directions aim, accept throws, back takes back and menu opens the main menu. In a menu the
-// directions lead from control to control, accept presses, and back goes back. A direction that is held repeats.
-// With one switch every button is the switch. Looks at the controllers often only while there are any. Main
-// thread only.
+// Each button does what the player's controls say; one of a device whose places nobody knows, and which they do not
+// name, accepts, but for the second, which takes back. In a menu the directions lead from control to control, accept
+// presses, and take back goes back. What moves something repeats while it is held. With one switch every button is
+// the switch. Looks at the controllers often only while there are any. Main thread only.
 class ControllerInput final : public QObject {
     Q_OBJECT
 
@@ -39,15 +40,16 @@ private:
     void look();
     void handle(ControllerButton button, bool pressed);
     void repeat();
-    void press(ControllerButton button);
-    void pressInMatch(ControllerButton button);
-    void pressInMenu(ControllerButton button);
+    void press(GameAction action);
+    void pressInMatch(GameAction action);
+    void pressInMenu(GameAction action);
+    [[nodiscard]] std::optional<GameAction> actionOf(ControllerButton button) const;
     void goBack();
 
     Controllers& controllers_;
     ContentView& view_;
     MainQueue& queue_;
-    std::optional<ControllerButton> held_; // a direction
+    std::optional<ControllerButton> held_; // one that repeats
     double untilRepeat_ = 0;               // s
     Lifetime lifetime_;
 };

@@ -10,8 +10,17 @@
 namespace vorbel {
 
 void PressCatcher::awaitKey(std::function<void(int)> taken) {
+    wait(std::move(taken), false);
+}
+
+void PressCatcher::awaitButton(std::function<void(int)> taken) {
+    wait(std::move(taken), true);
+}
+
+void PressCatcher::wait(std::function<void(int)> taken, bool forButton) {
     giveUp();
     taken_ = std::move(taken);
+    forButton_ = forButton;
     if (QCoreApplication* const application = QCoreApplication::instance()) {
         application->installEventFilter(this); // the last one is the first to see an event
     }
@@ -37,16 +46,26 @@ void PressCatcher::stop() {
     }
 }
 
-void PressCatcher::take(int key) {
-    if (isModifier(key)) {
-        return; // perhaps held on the way to the key that is meant
-    }
+void PressCatcher::pressKey(int key) {
     if (key == Qt::Key_Escape) {
-        return giveUp();
+        giveUp();
+    } else if (!forButton_ && !isModifier(key)) { // which may be held on the way to the key that is meant
+        take(key);
     }
+}
+
+void PressCatcher::pressButton(int button) {
+    if (forButton_) {
+        take(button);
+    } else {
+        giveUp();
+    }
+}
+
+void PressCatcher::take(int press) {
     const auto taken = taken_;
     stop();
-    taken(key);
+    taken(press);
     emit waitingChanged();
 }
 
@@ -59,7 +78,7 @@ bool PressCatcher::eventFilter(QObject* receiver, QEvent* event) {
         event->accept();
         return true;
     case QEvent::KeyPress:
-        take(pressedKey(static_cast<const QKeyEvent&>(*event)));
+        pressKey(pressedKey(static_cast<const QKeyEvent&>(*event)));
         return true;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

@@ -23,9 +23,14 @@ public:
 
     // The key, as pressedKey() has it, is given to `taken` once it is pressed; never, if that is given up.
     void awaitKey(std::function<void(int key)> taken);
-    void giveUp(); // without effect unless it waits
+    void awaitButton(std::function<void(int button)> taken); // the same with a ControllerButton
+    void giveUp();                                           // without effect unless it waits
 
     [[nodiscard]] bool isWaiting() const { return taken_ != nullptr; }
+
+    // Was pressed while it waits.
+    void pressKey(int key);
+    void pressButton(int button); // a wait for a key ends with it
 
     bool eventFilter(QObject* receiver, QEvent* event) override; // of the application, while it waits
 
@@ -33,12 +38,14 @@ signals:
     void waitingChanged();
 
 private:
-    void take(int key);
+    void wait(std::function<void(int)> taken, bool forButton);
+    void take(int press);
     void stop();
 
     MainQueue& queue_;
     std::function<void(int)> taken_; // null unless it waits
-    int attempts_ = 0;               // so far
+    bool forButton_ = false;
+    int attempts_ = 0; // so far
     Lifetime lifetime_;
 };
 

@@ -15,7 +15,8 @@ static_assert(static_cast<int>(MenuModel::Screen::MatchResult) == static_cast<in
 static_assert(static_cast<int>(MenuModel::Screen::Hidden) == static_cast<int>(MenuScreen::hidden));
 
 MenuModel::MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openMenu, Career& career,
-                     Options& options, PressCatcher& catcher, const Resources& resources)
+                     Options& options, GameControls& controls, PressCatcher& catcher,
+                     const Resources& resources)
     : match_(match),
       settings_(settings),
       openMenu_(openMenu),
@@ -23,7 +24,8 @@ MenuModel::MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openM
       choices_(settings),
       career_(career, settings),
       result_(match, settings, openMenu),
-      options_(options, settings, openMenu, catcher) {
+      options_(options, settings, openMenu, catcher),
+      controls_(controls, settings, openMenu, catcher) {
     texts_.setLanguage(settings_.selectedLanguage());
     connect(&openMenu_, &OpenMenu::menuScreenChanged, this, &MenuModel::screenChanged);
     connect(&settings_, &PlayerSettings::languageChanged, this, [this] {

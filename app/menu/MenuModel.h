@@ -1,6 +1,7 @@
 // The menu over the game: which screen is open, and what the player can do there.
 #pragma once
 
+#include "app/keys/ControlsModel.h"
 #include "app/menu/MenuCareer.h"
 #include "app/menu/MenuChoices.h"
 #include "app/menu/MenuResult.h"
@@ -38,14 +39,27 @@ class MenuModel : public QObject {
     Q_PROPERTY(vorbel::MenuCareer* career READ career CONSTANT FINAL)
     Q_PROPERTY(vorbel::MenuResult* result READ result CONSTANT FINAL)
     Q_PROPERTY(vorbel::OptionsModel* options READ options CONSTANT FINAL)
+    Q_PROPERTY(vorbel::ControlsModel* controls READ controls CONSTANT FINAL)
 
 public:
-    enum class Screen { Main, Country, BcClass, Rules, About, Diary, Options, Leave, MatchResult, Hidden };
+    enum class Screen {
+        Main,
+        Country,
+        BcClass,
+        Rules,
+        About,
+        Diary,
+        Options,
+        Controls,
+        Leave,
+        MatchResult,
+        Hidden
+    };
     Q_ENUM(Screen)
 
-    // All seven must outlive it.
+    // All eight must outlive it.
     MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openMenu, Career& career,
-              Options& options, PressCatcher& catcher, const Resources& resources);
+              Options& options, GameControls& controls, PressCatcher& catcher, const Resources& resources);
 
     [[nodiscard]] Screen screen() const;
     [[nodiscard]] bool isOpen() const;
@@ -58,6 +72,7 @@ public:
     [[nodiscard]] MenuCareer* career() { return &career_; }
     [[nodiscard]] MenuResult* result() { return &result_; }
     [[nodiscard]] OptionsModel* options() { return &options_; }
+    [[nodiscard]] ControlsModel* controls() { return &controls_; }
 
     Q_INVOKABLE void startGame();       // a single match: first its country
     Q_INVOKABLE void startTournament(); // the same for a tournament
@@ -87,6 +102,7 @@ private:
     MenuCareer career_;
     MenuResult result_;
     OptionsModel options_;
+    ControlsModel controls_;
 };
 
 } // namespace vorbel

@@ -1,5 +1,6 @@
 #include "app/options/Options.h"
 
+#include "app/keys/GameControls.h"
 #include "app/keys/PressedKey.h"
 
 #include <algorithm>
@@ -56,6 +57,7 @@ void Options::toggleMute() {
 }
 
 void Options::reset(UserDefaults& defaults) {
+    GameControls::reset(defaults);
     for (const OptionRow& row : optionRows()) {
         defaults.setInteger(storageKey(row), row.standard);
     }

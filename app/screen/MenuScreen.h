@@ -14,6 +14,7 @@ enum class MenuScreen : std::uint8_t {
     about,
     diary,
     options,
+    controls,
     leave,
     matchResult,
     hidden

@@ -29,6 +29,7 @@ ContentView::ContentView(const Platform& platform, UserDefaults& defaults, const
       gameLogic_({ofMatch.queue, ofMatch.random, audio_, platform.resources}),
       settings_(gameLogic_, platform.mainQueue, defaults),
       options_(defaults),
+      controls_(defaults),
       soundOptions_(audio_, options_),
       soundNotes_(audio_, options_, settings_, platform.mainQueue),
       leaving_(gameLogic_, options_, settings_, openMenu_),
@@ -40,8 +41,10 @@ ContentView::ContentView(const Platform& platform, UserDefaults& defaults, const
       changes_(gameLogic_, platform.mainQueue),
       sightOptions_(gameLogic_.scene, options_, changes_),
       keyboard_(gameLogic_, openMenu_),
-      menu_(gameLogic_, settings_, openMenu_, career_, options_, catcher_, platform_.resources) {
+      menu_(gameLogic_, settings_, openMenu_, career_, options_, controls_, catcher_, platform_.resources) {
     connect(&changes_, &MatchChanges::changed, this, &ContentView::refresh);
+    connect(&keyboard_, &Keyboard::menuRequested, this,
+            [this] { openMenu_.setMenuScreen(MenuScreen::main); });
     connect(&settings_, &PlayerSettings::choicesChanged, &changes_, &MatchChanges::tellSoon);
     refresh();
 }
@@ -57,6 +60,10 @@ void ContentView::receiveNotifications(NotificationCenter& center) {
         notifications_.push_back(center.addObserver(
             request.notification, [this, screen = request.screen] { openMenu_.setMenuScreen(screen); }));
     }
+}
+
+void ContentView::useController(ControllerFamily family) {
+    menu_.controls()->setFamily(family);
 }
 
 void ContentView::refresh() {

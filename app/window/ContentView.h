@@ -4,6 +4,7 @@
 #include "app/career/Career.h"
 #include "app/career/CareerRecorder.h"
 #include "app/hud/HudModel.h"
+#include "app/keys/GameControls.h"
 #include "app/keys/PressCatcher.h"
 #include "app/match/MatchChanges.h"
 #include "app/menu/MenuModel.h"
@@ -47,6 +48,7 @@ class ContentView final : public QObject {
     Q_PROPERTY(vorbel::Keyboard* keyboard READ keyboard CONSTANT FINAL)
     Q_PROPERTY(vorbel::HudModel* hud READ hud CONSTANT FINAL)
     Q_PROPERTY(vorbel::Options* options READ options CONSTANT FINAL)
+    Q_PROPERTY(vorbel::GameControls* controls READ controls CONSTANT FINAL)
     Q_PROPERTY(vorbel::SoundNotes* soundNotes READ soundNotes CONSTANT FINAL)
     Q_PROPERTY(vorbel::LeaveQuestion* leaving READ leaving CONSTANT FINAL)
     Q_PROPERTY(vorbel::OneSwitch* oneSwitch READ oneSwitch CONSTANT FINAL)
@@ -62,6 +64,8 @@ public:
     // Call once, when the view is first shown: starts the tick and gives the match the stored language.
     void appear();
 
+    void useController(ControllerFamily family); // such a one was used just now
+
     // Call once: from now on each of the shell's notifications opens its screen.
     void receiveNotifications(NotificationCenter& center);
 
@@ -74,6 +78,7 @@ public:
     [[nodiscard]] Keyboard* keyboard() { return &keyboard_; }
     [[nodiscard]] HudModel* hud() { return &hud_; }
     [[nodiscard]] Options* options() { return &options_; }
+    [[nodiscard]] GameControls* controls() { return &controls_; }
     [[nodiscard]] SoundNotes* soundNotes() { return &soundNotes_; }
     [[nodiscard]] LeaveQuestion* leaving() { return &leaving_; }
     [[nodiscard]] OneSwitch* oneSwitch() { return &oneSwitch_; }
@@ -90,6 +95,7 @@ private:
     GameLogic gameLogic_;
     PlayerSettings settings_;
     Options options_;
+    GameControls controls_;
     SoundOptions soundOptions_;
     SoundNotes soundNotes_;
     OpenMenu openMenu_;

@@ -51,6 +51,12 @@ void Keyboard::pressEverything() {
     }
 }
 
+void Keyboard::pressMenu() {
+    if (menu_.isHidden()) {
+        emit menuRequested();
+    }
+}
+
 void Keyboard::pressExitFullScreen() {
     emit exitFullScreenRequested();
 }

@@ -33,12 +33,14 @@ public:
     Q_INVOKABLE void pressPageUp(); // only a power that is set by hand
     Q_INVOKABLE void pressPageDown();
     Q_INVOKABLE void pressEverything(); // asks where everything lies
+    Q_INVOKABLE void pressMenu();       // asks for the main menu
 
     Q_INVOKABLE void pressExitFullScreen(); // acts in every state
 
 signals:
     void exitFullScreenRequested();
     void everythingRequested();
+    void menuRequested();
 
 private:
     void act(void (GameLogic::*operation)());

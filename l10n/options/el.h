@@ -94,6 +94,25 @@ inline constexpr auto el = std::to_array<Text>({
 
     {"key.space", "Διάστημα"},
 
+    {"controls.title", "Πλήκτρα και κουμπιά"},
+    {"controls.help", "Διαλέξτε + και πατήστε ένα πλήκτρο ή κουμπί: έως τρία για κάθε ενέργεια. Για να "
+                      "αφαιρέσετε ένα, διαλέξτε το."},
+    {"controls.keyboard", "Πληκτρολόγιο"},
+    {"controls.accept", "Στόχευση, ρίψη, εντάξει"},
+    {"controls.everything", "Πού βρίσκονται όλα"},
+    {"controls.addKey", "Προσθήκη πλήκτρου"},
+    {"controls.addButton", "Προσθήκη κουμπιού"},
+    {"controls.pressButton", "Πατήστε ένα κουμπί..."},
+    {"controls.moved.format", "%@: τώρα για «%@», όχι πια για «%@»."},
+    {"controls.needed.format", "%@: μένει, γιατί το «%@» δεν έχει άλλο."},
+    {"controls.reserved.format", "%@: χρειάζεται στα μενού."},
+    {"controls.reset", "Επαναφορά πλήκτρων"},
+    {"button.cross", "Σταυρός"},
+    {"button.circle", "Κύκλος"},
+    {"button.square", "Τετράγωνο"},
+    {"button.triangle", "Τρίγωνο"},
+    {"button.number.format", "Κουμπί %@"},
+
     {"sound.throw", "Ρίψη"},
     {"sound.hit", "Μπάλα χτυπά μπάλα"},
     {"sound.victory", "Ζητωκραυγές"},

@@ -96,6 +96,25 @@ inline constexpr auto fr = std::to_array<Text>({
 
     {"key.space", "Espace"},
 
+    {"controls.title", "Touches et boutons"},
+    {"controls.help", "Choisissez +, puis appuyez sur une touche ou un bouton : trois au plus par action. "
+                      "Pour en retirer, choisissez-les."},
+    {"controls.keyboard", "Clavier"},
+    {"controls.accept", "Viser, lancer, valider"},
+    {"controls.everything", "Position des balles"},
+    {"controls.addKey", "Ajouter une touche"},
+    {"controls.addButton", "Ajouter un bouton"},
+    {"controls.pressButton", "Appuyez sur un bouton…"},
+    {"controls.moved.format", "%@ sert maintenant à « %@ », et non plus à « %@ »."},
+    {"controls.needed.format", "%@ reste : « %@ » n’a rien d’autre."},
+    {"controls.reserved.format", "%@ sert dans les menus."},
+    {"controls.reset", "Rétablir les touches"},
+    {"button.cross", "Croix"},
+    {"button.circle", "Rond"},
+    {"button.square", "Carré"},
+    {"button.triangle", "Triangle"},
+    {"button.number.format", "Bouton %@"},
+
     {"sound.throw", "Lancer"},
     {"sound.hit", "Choc de balles"},
     {"sound.victory", "Acclamations"},

@@ -94,6 +94,25 @@ inline constexpr auto id = std::to_array<Text>({
 
     {"key.space", "Spasi"},
 
+    {"controls.title", "Tombol dan kontroler"},
+    {"controls.help", "Pilih +, lalu tekan tombol papan ketik atau kontroler: paling banyak tiga per aksi. "
+                      "Pilih satu untuk membuangnya."},
+    {"controls.keyboard", "Papan ketik"},
+    {"controls.accept", "Bidik, lempar, OK"},
+    {"controls.everything", "Letak semua bola"},
+    {"controls.addKey", "Tambah tombol papan ketik"},
+    {"controls.addButton", "Tambah tombol kontroler"},
+    {"controls.pressButton", "Tekan tombol kontroler..."},
+    {"controls.moved.format", "%@ kini untuk “%@”, bukan lagi untuk “%@”."},
+    {"controls.needed.format", "%@ tetap: “%@” tidak punya yang lain."},
+    {"controls.reserved.format", "%@ dipakai di menu."},
+    {"controls.reset", "Kembalikan tombol biasa"},
+    {"button.cross", "Silang"},
+    {"button.circle", "Lingkaran"},
+    {"button.square", "Kotak"},
+    {"button.triangle", "Segitiga"},
+    {"button.number.format", "Tombol %@"},
+
     {"sound.throw", "Bola dilempar"},
     {"sound.hit", "Bola membentur bola"},
     {"sound.victory", "Sorak-sorai"},

@@ -2,6 +2,7 @@
 
 #include <SDL.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace vorbel {
@@ -13,29 +14,34 @@ namespace {
 constexpr int pressedBeyond = 18'000;
 constexpr int releasedBelow = 12'000;
 
-ControllerButton known(Uint8 button) {
-    switch (button) {
-    case SDL_CONTROLLER_BUTTON_A:
-        return ControllerButton::accept;
-    case SDL_CONTROLLER_BUTTON_B:
-        return ControllerButton::back;
-    case SDL_CONTROLLER_BUTTON_START:
-        return ControllerButton::menu;
-    case SDL_CONTROLLER_BUTTON_DPAD_LEFT:
-        return ControllerButton::left;
-    case SDL_CONTROLLER_BUTTON_DPAD_RIGHT:
-        return ControllerButton::right;
-    case SDL_CONTROLLER_BUTTON_DPAD_UP:
-        return ControllerButton::up;
-    case SDL_CONTROLLER_BUTTON_DPAD_DOWN:
-        return ControllerButton::down;
-    default:
-        return ControllerButton::other;
-    }
+// SDL counts the places as the game does.
+constexpr bool isAt(ControllerButton button, SDL_GameControllerButton place) {
+    return static_cast<int>(button) == place;
+}
+static_assert(isAt(ControllerButton::south, SDL_CONTROLLER_BUTTON_A) &&
+              isAt(ControllerButton::north, SDL_CONTROLLER_BUTTON_Y) &&
+              isAt(ControllerButton::start, SDL_CONTROLLER_BUTTON_START) &&
+              isAt(ControllerButton::rightShoulder, SDL_CONTROLLER_BUTTON_RIGHTSHOULDER) &&
+              isAt(ControllerButton::up, SDL_CONTROLLER_BUTTON_DPAD_UP) &&
+              isAt(ControllerButton::right, SDL_CONTROLLER_BUTTON_DPAD_RIGHT) &&
+              isAt(ControllerButton::touchpad, SDL_CONTROLLER_BUTTON_TOUCHPAD));
+
+ControllerButton numbered(Uint8 button) {
+    const int number = static_cast<int>(ControllerButton::first) + button;
+    return static_cast<ControllerButton>(std::min(number, static_cast<int>(ControllerButton::last)));
 }
 
-ControllerButton unknown(Uint8 button) {
-    return button == 1 ? ControllerButton::back : ControllerButton::accept;
+ControllerFamily familyOf(SDL_GameControllerType type) {
+    switch (type) {
+    case SDL_CONTROLLER_TYPE_PS3:
+    case SDL_CONTROLLER_TYPE_PS4:
+    case SDL_CONTROLLER_TYPE_PS5:
+        return ControllerFamily::shapes;
+    case SDL_CONTROLLER_TYPE_NINTENDO_SWITCH_PRO:
+        return ControllerFamily::signs;
+    default:
+        return ControllerFamily::letters;
+    }
 }
 
 } // namespace
@@ -58,6 +64,7 @@ public:
     }
 
     [[nodiscard]] bool isKnown() const { return controller_ != nullptr; }
+    [[nodiscard]] ControllerFamily family() const { return familyOf(SDL_GameControllerGetType(controller_)); }
     [[nodiscard]] int id() const {
         return SDL_JoystickInstanceID(isKnown() ? SDL_GameControllerGetJoystick(controller_) : joystick_);
     }
@@ -99,12 +106,12 @@ void SdlControllers::handle(const SDL_Event& event, const Listener& listener) {
         return disconnect(event.jdevice.which, listener);
     case SDL_CONTROLLERBUTTONDOWN:
     case SDL_CONTROLLERBUTTONUP:
-        return tell(event.cbutton.which, known(event.cbutton.button), event.cbutton.state == SDL_PRESSED,
-                    listener);
+        return tell(event.cbutton.which, static_cast<ControllerButton>(event.cbutton.button),
+                    event.cbutton.state == SDL_PRESSED, listener);
     case SDL_JOYBUTTONDOWN:
     case SDL_JOYBUTTONUP:
         if (!isKnown(event.jbutton.which)) {
-            tell(event.jbutton.which, unknown(event.jbutton.button), event.jbutton.state == SDL_PRESSED,
+            tell(event.jbutton.which, numbered(event.jbutton.button), event.jbutton.state == SDL_PRESSED,
                  listener);
         }
         return;
@@ -112,6 +119,11 @@ void SdlControllers::handle(const SDL_Event& event, const Listener& listener) {
         if (event.caxis.axis <= SDL_CONTROLLER_AXIS_LEFTY) {
             move(event.caxis.which, event.caxis.axis == SDL_CONTROLLER_AXIS_LEFTY, event.caxis.value,
                  listener);
+        } else if (event.caxis.axis >= SDL_CONTROLLER_AXIS_TRIGGERLEFT) {
+            pull(event.caxis.which,
+                 event.caxis.axis == SDL_CONTROLLER_AXIS_TRIGGERLEFT ? ControllerButton::leftTrigger
+                                                                     : ControllerButton::rightTrigger,
+                 event.caxis.value, listener);
         }
         return;
     case SDL_JOYAXISMOTION:
@@ -142,6 +154,9 @@ void SdlControllers::disconnect(int id, const Listener& listener) {
 void SdlControllers::tell(int id, ControllerButton button, bool pressed, const Listener& listener) {
     const bool changed = pressed ? held_[id].insert(button).second : held_[id].erase(button) > 0;
     if (changed) {
+        if (const auto device = devices_.find(id); device != devices_.end()) {
+            family_ = device->second->family();
+        }
         listener(button, pressed);
     }
 }
@@ -149,10 +164,13 @@ void SdlControllers::tell(int id, ControllerButton button, bool pressed, const L
 void SdlControllers::move(int id, bool upright, int position, const Listener& listener) {
     const ControllerButton negative = upright ? ControllerButton::up : ControllerButton::left;
     const ControllerButton positive = upright ? ControllerButton::down : ControllerButton::right;
-    for (const auto& [button, way] : {std::pair(negative, -position), std::pair(positive, position)}) {
-        if (way > pressedBeyond || way < releasedBelow) {
-            tell(id, button, way > pressedBeyond, listener);
-        }
+    pull(id, negative, -position, listener);
+    pull(id, positive, position, listener);
+}
+
+void SdlControllers::pull(int id, ControllerButton trigger, int way, const Listener& listener) {
+    if (way > pressedBeyond || way < releasedBelow) {
+        tell(id, trigger, way > pressedBeyond, listener);
     }
 }
 

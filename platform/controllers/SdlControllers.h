@@ -12,7 +12,7 @@ union SDL_Event;
 namespace vorbel {
 
 // Takes every device: a game controller by SDL's list of them, any other, such as an interface for switches, by
-// its buttons: the second goes back, all others accept. Starts no thread. Main thread only; one at a time.
+// the numbers of its buttons. Starts no thread. Main thread only; one at a time.
 class SdlControllers final : public Controllers {
 public:
     SdlControllers(); // without the system's devices it works as usual, and finds none
@@ -22,6 +22,7 @@ public:
 
     void poll(const Listener& listener) override;
     [[nodiscard]] bool isAnyConnected() const override { return !devices_.empty(); }
+    [[nodiscard]] ControllerFamily family() const override { return family_; }
 
 private:
     class Device;
@@ -31,9 +32,11 @@ private:
     void disconnect(int id, const Listener& listener);
     void tell(int id, ControllerButton button, bool pressed, const Listener& listener);
     void move(int id, bool upright, int position, const Listener& listener);
+    void pull(int id, ControllerButton trigger, int way, const Listener& listener);
 
     std::map<int, std::shared_ptr<Device>> devices_; // by SDL's number for what is connected
     std::map<int, std::set<ControllerButton>> held_; // of each of them
+    ControllerFamily family_ = ControllerFamily::letters;
 };
 
 } // namespace vorbel

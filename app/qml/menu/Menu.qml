@@ -89,6 +89,16 @@ FocusScope {
         OptionsScreen {
             anchors.fill: parent
             options: overlay.menu.options
+            controls: overlay.menu.controls
+            texts: overlay.menu.texts
+        }
+    }
+    Repeater {
+        model: overlay.menu.screen === MenuModel.Controls ? 1 : 0
+
+        ControlsScreen {
+            anchors.fill: parent
+            controls: overlay.menu.controls
             texts: overlay.menu.texts
         }
     }

@@ -9,6 +9,7 @@ MenuBackdrop {
     id: screen
 
     required property OptionsModel options
+    required property ControlsModel controls
     required property MenuTexts texts
 
     ScreenTitle {
@@ -24,7 +25,7 @@ MenuBackdrop {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         Layout.preferredWidth: Math.min(860, screen.availableWidth)
-        Layout.preferredHeight: Math.min(contentHeight, screen.availableHeight - 140)
+        Layout.preferredHeight: Math.min(contentHeight, screen.availableHeight - 200)
         Layout.alignment: Qt.AlignHCenter
         Accessible.role: Accessible.Grouping
         Accessible.name: screen.options.title
@@ -53,6 +54,10 @@ MenuBackdrop {
                 }
             }
         }
+    }
+    MenuButton {
+        text: screen.controls.title
+        onClicked: screen.controls.open()
     }
     MenuButton {
         focus: true

@@ -1,4 +1,4 @@
-// A command's keys, whatever the keyboard's layout. One press is one command.
+// A command's keys, whatever the keyboard's layout. One press is one command, unless repeats are wanted.
 import QtQuick
 import Vorbel
 
@@ -6,13 +6,14 @@ Item {
     id: command
 
     required property list<var> sequences
+    property bool autoRepeat: false
 
     signal activated()
 
     Shortcut {
         sequences: command.sequences // qmllint disable
         enabled: command.enabled
-        autoRepeat: false
+        autoRepeat: command.autoRepeat
         onActivated: command.activated()
     }
     LatinKeys {

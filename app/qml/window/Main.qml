@@ -101,10 +101,13 @@ Window {
     }
     GameKeys {
         keyboard: window.view.keyboard
+        controls: window.view.controls
+        menuOpen: window.view.menu.open
     }
     OptionalKeys {
         keyboard: window.view.keyboard
         options: window.view.options
+        controls: window.view.controls
         menuOpen: window.view.menu.open
     }
 }

@@ -1,31 +1,12 @@
 // A whole match, menus included, by players who have no keyboard: with one switch, with the mouse, with a controller.
+#include "tests/ScriptedControllers.h"
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include "app/controller/ControllerInput.h"
 
 #include <gtest/gtest.h>
 
-#include <utility>
-#include <vector>
-
 namespace vorbel {
-
-namespace {
-
-// Tells what the test puts into it.
-class ScriptedControllers final : public Controllers {
-public:
-    std::vector<std::pair<ControllerButton, bool>> coming;
-
-    void poll(const Listener& listener) override {
-        for (const auto& [button, pressed] : std::exchange(coming, {})) {
-            listener(button, pressed);
-        }
-    }
-    [[nodiscard]] bool isAnyConnected() const override { return true; }
-};
-
-} // namespace
 
 class HelpedPlayTest : public testing::Test {
 protected:
@@ -172,14 +153,14 @@ TEST_F(HelpedPlayTest, FromTheStartToTheResultAndBackInTheMenuWithAControllerAlo
             press(ControllerButton::down, 0.02);
         }
         ASSERT_EQ(game.focusedText(), text);
-        press(ControllerButton::accept, 0.02);
+        press(ControllerButton::south, 0.02);
     };
     goTo("Start Game");
     goTo("Play");
     goTo("Play");
     expectScreen(MenuScreen::hidden);
     for (int throwing = 0; throwing < 5000 && !isOver(); ++throwing) {
-        press(ControllerButton::accept, 0.7);
+        press(ControllerButton::south, 0.7);
     }
     expectScreen(MenuScreen::matchResult);
     expectPlayedMatch();

@@ -21,6 +21,7 @@ constexpr Shown screens[] = {
     {MenuScreen::main, "main"},          {MenuScreen::country, "country"}, {MenuScreen::bcClass, "class"},
     {MenuScreen::rules, "rules"},        {MenuScreen::about, "about"},     {MenuScreen::diary, "diary"},
     {MenuScreen::matchResult, "result"}, {MenuScreen::options, "options"}, {MenuScreen::leave, "leave"},
+    {MenuScreen::controls, "controls"},
 };
 
 std::string diaryOf(int entries) {

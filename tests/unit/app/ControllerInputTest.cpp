@@ -1,4 +1,5 @@
 // What a controller does in match and menu.
+#include "tests/ScriptedControllers.h"
 #include "tests/unit/app/ViewFixture.h"
 
 #include "app/controller/ControllerInput.h"
@@ -6,26 +7,6 @@
 #include <vector>
 
 namespace vorbel {
-
-namespace {
-
-// Tells what the test puts into it.
-class ScriptedControllers final : public Controllers {
-public:
-    std::vector<std::pair<ControllerButton, bool>> coming;
-    bool connected = true;
-    int polls = 0;
-
-    void poll(const Listener& listener) override {
-        ++polls;
-        for (const auto& [button, pressed] : std::exchange(coming, {})) {
-            listener(button, pressed);
-        }
-    }
-    [[nodiscard]] bool isAnyConnected() const override { return connected; }
-};
-
-} // namespace
 
 class ControllerInputTest : public ViewTest {
 protected:
@@ -46,7 +27,7 @@ protected:
 
 TEST_F(ControllerInputTest, AThrowIsMadeWithIt) {
     appearAndHideMenu();
-    press(ControllerButton::accept);
+    press(ControllerButton::south);
     EXPECT_EQ(match.aimState, AimState::aimingAngle);
     press(ControllerButton::right);
     press(ControllerButton::up);
@@ -56,17 +37,17 @@ TEST_F(ControllerInputTest, AThrowIsMadeWithIt) {
     press(ControllerButton::down);
     EXPECT_DOUBLE_EQ(match.aimAngle, 0);
     EXPECT_DOUBLE_EQ(match.aimPitch, 0);
-    press(ControllerButton::accept);
-    press(ControllerButton::back);
+    press(ControllerButton::south);
+    press(ControllerButton::east);
     EXPECT_EQ(match.aimState, AimState::aimingAngle);
-    press(ControllerButton::accept);
-    press(ControllerButton::accept);
+    press(ControllerButton::south);
+    press(ControllerButton::south);
     EXPECT_EQ(match.aimState, AimState::thrown);
 }
 
 TEST_F(ControllerInputTest, AHeldDirectionRepeats) {
     appearAndHideMenu();
-    press(ControllerButton::accept);
+    press(ControllerButton::south);
     controllers.coming = {{ControllerButton::right, true}};
     platform.queue.advance(0.45);
     EXPECT_DOUBLE_EQ(match.aimAngle, aim::angleStep);
@@ -82,8 +63,8 @@ TEST_F(ControllerInputTest, MenusAreWalkedThroughAndPressed) {
     press(ControllerButton::right);
     press(ControllerButton::up);
     press(ControllerButton::left);
-    press(ControllerButton::accept);
-    press(ControllerButton::menu);
+    press(ControllerButton::south);
+    press(ControllerButton::start);
     EXPECT_EQ(keys, (std::vector<Qt::Key>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Backtab,
                                           Qt::Key_Return}));
     EXPECT_EQ(match.aimState, AimState::idle);
@@ -93,23 +74,26 @@ TEST_F(ControllerInputTest, BackGoesBackFromEveryScreenThatHasAWayBack) {
     for (const MenuScreen screen : {MenuScreen::country, MenuScreen::bcClass, MenuScreen::rules,
                                     MenuScreen::about, MenuScreen::diary}) {
         openMenu.setMenuScreen(screen);
-        press(ControllerButton::back);
+        press(ControllerButton::east);
         EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     }
-    press(ControllerButton::back);
+    press(ControllerButton::east);
     EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
     openMenu.setMenuScreen(MenuScreen::matchResult);
-    press(ControllerButton::back);
+    press(ControllerButton::east);
     EXPECT_EQ(openMenu.menuScreen(), MenuScreen::matchResult);
     hideMenu();
     view.menu()->options()->open();
-    press(ControllerButton::back);
+    press(ControllerButton::east);
     EXPECT_TRUE(openMenu.isHidden());
+    openMenu.setMenuScreen(MenuScreen::controls);
+    press(ControllerButton::east);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::options);
 }
 
 TEST_F(ControllerInputTest, MenuOpensTheMainMenu) {
     appearAndHideMenu();
-    press(ControllerButton::menu);
+    press(ControllerButton::start);
     EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
 }
 
@@ -117,7 +101,7 @@ TEST_F(ControllerInputTest, WithOneSwitchEveryButtonIsTheSwitch) {
     view.options()->set(Option::switchOn, 1);
     view.options()->set(Option::switchRest, 0);
     appearAndHideMenu();
-    press(ControllerButton::other);
+    press(ControllerButton::west);
     EXPECT_EQ(match.aimState, AimState::aimingAngle);
 }
 
@@ -126,9 +110,58 @@ TEST_F(ControllerInputTest, TurnedOffItDoesNotEvenLook) {
     appearAndHideMenu();
     platform.queue.advance(1);
     const int polls = controllers.polls;
-    press(ControllerButton::accept);
+    press(ControllerButton::south);
     EXPECT_EQ(match.aimState, AimState::idle);
     EXPECT_EQ(controllers.polls, polls);
+}
+
+TEST_F(ControllerInputTest, ButtonsDoWhatThePlayerGaveThem) {
+    GameControls& controls = *view.controls();
+    const auto give = [&](GameAction action, ControllerButton button) {
+        controls.give(GameControls::Device::controller, action, static_cast<int>(button));
+    };
+    give(GameAction::accept, ControllerButton::leftShoulder);
+    give(GameAction::right, ControllerButton::leftTrigger);
+    give(GameAction::mute, ControllerButton::west);
+    give(GameAction::menu, ControllerButton::east);
+    appearAndHideMenu();
+    press(ControllerButton::leftShoulder);
+    EXPECT_EQ(match.aimState, AimState::aimingAngle);
+    press(ControllerButton::leftTrigger);
+    EXPECT_DOUBLE_EQ(match.aimAngle, aim::angleStep);
+    press(ControllerButton::west);
+    EXPECT_TRUE(view.options()->isOn(Option::mute));
+    press(ControllerButton::north);
+    EXPECT_EQ(match.aimState, AimState::aimingAngle) << "it was given nothing";
+    press(ControllerButton::east);
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::main);
+}
+
+TEST_F(ControllerInputTest, ButtonsWithoutAKnownPlaceAcceptButForTheSecondUnlessTheyAreGivenMore) {
+    const auto numbered = [](int number) {
+        return static_cast<ControllerButton>(static_cast<int>(ControllerButton::first) + number);
+    };
+    appearAndHideMenu();
+    press(numbered(0));
+    press(numbered(5));
+    EXPECT_EQ(match.aimState, AimState::aimingPower);
+    press(numbered(1));
+    EXPECT_EQ(match.aimState, AimState::aimingAngle);
+    view.controls()->give(GameControls::Device::controller, GameAction::right, static_cast<int>(numbered(5)));
+    press(numbered(5));
+    EXPECT_DOUBLE_EQ(match.aimAngle, aim::angleStep);
+}
+
+TEST_F(ControllerInputTest, AButtonThatIsAskedForDoesNothingElse) {
+    appearAndHideMenu();
+    ControlsModel& rows = *view.menu()->controls();
+    rows.addButton(static_cast<int>(GameAction::menu));
+    press(ControllerButton::south);
+    EXPECT_EQ(match.aimState, AimState::idle);
+    rows.addKey(static_cast<int>(GameAction::menu));
+    press(ControllerButton::south);
+    EXPECT_FALSE(view.catcher().isWaiting()) << "whoever has no keyboard at hand gets out of it";
+    EXPECT_EQ(match.aimState, AimState::idle);
 }
 
 TEST_F(ControllerInputTest, WithoutAControllerItLooksTwiceASecond) {

@@ -9,7 +9,8 @@ TEST_F(KeyboardTest, KeysDoNothingWhileAMenuIsOpen) {
     keyboard.pressAction();
     for (const MenuScreen screen :
          {MenuScreen::main, MenuScreen::country, MenuScreen::bcClass, MenuScreen::rules, MenuScreen::about,
-          MenuScreen::diary, MenuScreen::options, MenuScreen::leave, MenuScreen::matchResult}) {
+          MenuScreen::diary, MenuScreen::options, MenuScreen::controls, MenuScreen::leave,
+          MenuScreen::matchResult}) {
         openMenu.setMenuScreen(screen);
         keyboard.pressAction();
         EXPECT_EQ(match.aimState, AimState::aimingAngle);

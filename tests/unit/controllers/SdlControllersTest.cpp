@@ -16,8 +16,8 @@ using Told = std::vector<std::pair<ControllerButton, bool>>;
 // Plugged in for as long as it lives.
 class VirtualDevice {
 public:
-    explicit VirtualDevice(SDL_JoystickType type)
-        : place_(SDL_JoystickAttachVirtual(type, 6, 16, 0)), joystick_(SDL_JoystickOpen(place_)) {}
+    explicit VirtualDevice(SDL_JoystickType type, Uint16 vendor = 0, Uint16 product = 0)
+        : place_(attach(type, vendor, product)), joystick_(SDL_JoystickOpen(place_)) {}
     VirtualDevice(const VirtualDevice&) = delete;
     VirtualDevice& operator=(const VirtualDevice&) = delete;
     ~VirtualDevice() {
@@ -31,6 +31,18 @@ public:
     }
 
 private:
+    static int attach(SDL_JoystickType type, Uint16 vendor, Uint16 product) {
+        SDL_VirtualJoystickDesc device{};
+        device.version = SDL_VIRTUAL_JOYSTICK_DESC_VERSION;
+        device.type = static_cast<Uint16>(type);
+        device.naxes = 6;
+        device.nbuttons = 21;
+        device.vendor_id = vendor;
+        device.product_id = product;
+        device.name = "Virtual";
+        return SDL_JoystickAttachVirtualEx(&device);
+    }
+
     int place_;
     SDL_Joystick* joystick_;
 };
@@ -53,10 +65,10 @@ TEST_F(SdlControllersTest, ButtonsOfAGameControllerAreToldByWhatTheyAreFor) {
     poll();
     EXPECT_TRUE(controllers.isAnyConnected());
     const std::vector<std::pair<int, ControllerButton>> buttons{
-        {SDL_CONTROLLER_BUTTON_A, ControllerButton::accept},
-        {SDL_CONTROLLER_BUTTON_B, ControllerButton::back},
-        {SDL_CONTROLLER_BUTTON_START, ControllerButton::menu},
-        {SDL_CONTROLLER_BUTTON_X, ControllerButton::other},
+        {SDL_CONTROLLER_BUTTON_A, ControllerButton::south},
+        {SDL_CONTROLLER_BUTTON_B, ControllerButton::east},
+        {SDL_CONTROLLER_BUTTON_START, ControllerButton::start},
+        {SDL_CONTROLLER_BUTTON_X, ControllerButton::west},
         {SDL_CONTROLLER_BUTTON_DPAD_LEFT, ControllerButton::left},
         {SDL_CONTROLLER_BUTTON_DPAD_RIGHT, ControllerButton::right},
         {SDL_CONTROLLER_BUTTON_DPAD_UP, ControllerButton::up},
@@ -87,17 +99,36 @@ TEST_F(SdlControllersTest, TheLeftStickIsADirectionFromHalfItsWay) {
     EXPECT_EQ(poll(), (Told{{ControllerButton::up, false}, {ControllerButton::down, true}}));
 }
 
-TEST_F(SdlControllersTest, AnyButtonOfAnUnknownDeviceAcceptsButForTheSecond) {
+TEST_F(SdlControllersTest, ATriggerIsAButtonFromHalfItsWay) {
+    VirtualDevice pad(SDL_JOYSTICK_TYPE_GAMECONTROLLER);
+    poll();
+    pad.tilt(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, 20'000); // at rest it is at the lower end
+    EXPECT_EQ(poll(), (Told{{ControllerButton::rightTrigger, true}}));
+    pad.tilt(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, -32'768);
+    EXPECT_EQ(poll(), (Told{{ControllerButton::rightTrigger, false}}));
+}
+
+TEST_F(SdlControllersTest, WhatIsPrintedOnItIsThatOfTheDeviceThatWasPressed) {
+    EXPECT_EQ(controllers.family(), ControllerFamily::letters);
+    constexpr Uint16 vendorWithShapes = 0x054c;
+    constexpr Uint16 productWithShapes = 0x0ce6;
+    VirtualDevice pad(SDL_JOYSTICK_TYPE_GAMECONTROLLER, vendorWithShapes, productWithShapes);
+    poll();
+    pad.set(SDL_CONTROLLER_BUTTON_A, true);
+    poll();
+    EXPECT_EQ(controllers.family(), ControllerFamily::shapes);
+}
+
+TEST_F(SdlControllersTest, ButtonsOfAnUnknownDeviceAreToldByTheirNumbers) {
     VirtualDevice switches(SDL_JOYSTICK_TYPE_UNKNOWN);
     poll();
-    for (const int button : {0, 2, 15}) {
-        switches.set(button, true);
-        EXPECT_EQ(poll(), (Told{{ControllerButton::accept, true}})) << button;
-        switches.set(button, false);
-        EXPECT_EQ(poll(), (Told{{ControllerButton::accept, false}})) << button;
+    for (const int number : {0, 1, 15}) {
+        const auto button = static_cast<ControllerButton>(static_cast<int>(ControllerButton::first) + number);
+        switches.set(number, true);
+        EXPECT_EQ(poll(), (Told{{button, true}})) << number;
+        switches.set(number, false);
+        EXPECT_EQ(poll(), (Told{{button, false}})) << number;
     }
-    switches.set(1, true);
-    EXPECT_EQ(poll(), (Told{{ControllerButton::back, true}}));
 }
 
 TEST_F(SdlControllersTest, DevicesComeAndGoAndLetGoOfWhatWasHeld) {

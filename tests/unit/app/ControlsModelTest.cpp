@@ -1,0 +1,121 @@
+// Keys and buttons as the player changes them.
+#include "tests/unit/app/ViewFixture.h"
+
+namespace vorbel {
+
+class ControlsModelTest : public ViewTest {
+protected:
+    GameControls& controls = *view.controls();
+    ControlsModel& rows = *view.menu()->controls();
+    PressCatcher& catcher = view.catcher();
+    MemoryDefaults untouched;
+
+    ControlsModelTest() { speak(AppLanguage::en); }
+
+    static int row(GameAction action) { return static_cast<int>(action); }
+    [[nodiscard]] QStringList at(GameAction action, int role) const {
+        return rows.data(rows.index(row(action)), role).toStringList();
+    }
+    [[nodiscard]] bool isTrue(GameAction action, int role) const {
+        return rows.data(rows.index(row(action)), role).toBool();
+    }
+    void addKey(GameAction action, int key) {
+        rows.addKey(row(action));
+        catcher.pressKey(key);
+    }
+    void addButton(GameAction action, ControllerButton button) {
+        rows.addButton(row(action));
+        catcher.pressButton(static_cast<int>(button));
+    }
+    [[nodiscard]] std::string news() const { return rows.news().toStdString(); }
+};
+
+TEST_F(ControlsModelTest, EachActionShowsItsKeysAndButtons) {
+    EXPECT_EQ(rows.data(rows.index(row(GameAction::left)), ControlsModel::TitleRole), "Left");
+    EXPECT_EQ(rows.data(rows.index(row(GameAction::morePower)), ControlsModel::TitleRole), "Throw power +10");
+    EXPECT_EQ(at(GameAction::accept, ControlsModel::KeysRole), QStringList{"Space"});
+    EXPECT_EQ(at(GameAction::accept, ControlsModel::ButtonsRole), QStringList{"A"});
+    EXPECT_EQ(at(GameAction::left, ControlsModel::KeysRole), QStringList{QStringLiteral("←")});
+    EXPECT_EQ(at(GameAction::menu, ControlsModel::KeysRole), QStringList());
+    view.useController(ControllerFamily::shapes);
+    EXPECT_EQ(at(GameAction::accept, ControlsModel::ButtonsRole), QStringList{"Cross"});
+}
+
+TEST_F(ControlsModelTest, TheNextPressIsAdded) {
+    rows.addKey(row(GameAction::left));
+    EXPECT_TRUE(isTrue(GameAction::left, ControlsModel::AwaitsKeyRole));
+    EXPECT_FALSE(isTrue(GameAction::left, ControlsModel::AwaitsButtonRole));
+    EXPECT_FALSE(isTrue(GameAction::right, ControlsModel::AwaitsKeyRole));
+    catcher.pressKey(Qt::Key_A);
+    EXPECT_FALSE(isTrue(GameAction::left, ControlsModel::AwaitsKeyRole));
+    EXPECT_EQ(at(GameAction::left, ControlsModel::KeysRole), (QStringList{QStringLiteral("←"), "A"}));
+    addButton(GameAction::left, ControllerButton::leftShoulder);
+    EXPECT_EQ(at(GameAction::left, ControlsModel::ButtonsRole), (QStringList{QStringLiteral("←"), "LB"}));
+    EXPECT_EQ(news(), "");
+}
+
+TEST_F(ControlsModelTest, ThreeAreEnough) {
+    addKey(GameAction::left, Qt::Key_A);
+    EXPECT_TRUE(isTrue(GameAction::left, ControlsModel::MoreKeysRole));
+    addKey(GameAction::left, Qt::Key_B);
+    EXPECT_FALSE(isTrue(GameAction::left, ControlsModel::MoreKeysRole));
+    EXPECT_TRUE(isTrue(GameAction::left, ControlsModel::MoreButtonsRole));
+}
+
+TEST_F(ControlsModelTest, AConflictIsSaidInWords) {
+    addKey(GameAction::menu, Qt::Key_M);
+    EXPECT_EQ(news(), "M is now for “Main Menu”, no longer for “No sound”.");
+    addKey(GameAction::menu, Qt::Key_Space);
+    EXPECT_EQ(news(), "Space stays: “Aim, throw, OK” has nothing else.");
+    EXPECT_EQ(at(GameAction::accept, ControlsModel::KeysRole), QStringList{"Space"});
+    addKey(GameAction::menu, Qt::Key_Tab);
+    EXPECT_EQ(news(), "Tab belongs to the menus.");
+    addKey(GameAction::menu, Qt::Key_F5);
+    EXPECT_EQ(news(), "");
+    addButton(GameAction::menu, ControllerButton::east);
+    EXPECT_EQ(news(), "B is now for “Main Menu”, no longer for “Take back”.");
+}
+
+TEST_F(ControlsModelTest, OneIsTakenAwayUnlessNothingElseIsLeft) {
+    rows.removeKey(row(GameAction::mute), 0);
+    EXPECT_EQ(at(GameAction::mute, ControlsModel::KeysRole), QStringList());
+    rows.removeKey(row(GameAction::mute), 0);
+    rows.removeKey(-1, 0);
+    rows.removeKey(rows.rowCount(), 0);
+    rows.removeButton(row(GameAction::accept), 0);
+    EXPECT_EQ(news(), "A stays: “Aim, throw, OK” has nothing else.");
+    addButton(GameAction::accept, ControllerButton::north);
+    rows.removeButton(row(GameAction::accept), 0);
+    EXPECT_EQ(at(GameAction::accept, ControlsModel::ButtonsRole), QStringList{"Y"});
+}
+
+TEST_F(ControlsModelTest, ChangesAreKeptAndResetIsTheGivenGame) {
+    addKey(GameAction::left, Qt::Key_A);
+    addButton(GameAction::left, ControllerButton::leftShoulder);
+    EXPECT_TRUE(GameControls(defaults).of(GameControls::Device::keyboard).actionOf(Qt::Key_A));
+    rows.reset();
+    for (const GameControls::Device device :
+         {GameControls::Device::keyboard, GameControls::Device::controller}) {
+        EXPECT_EQ(GameControls(defaults).of(device), GameControls(untouched).of(device));
+        EXPECT_EQ(controls.of(device), GameControls(untouched).of(device));
+    }
+    addKey(GameAction::left, Qt::Key_A);
+    Options::reset(defaults);
+    EXPECT_FALSE(GameControls(defaults).of(GameControls::Device::keyboard).actionOf(Qt::Key_A));
+}
+
+TEST_F(ControlsModelTest, NothingIsStoredUntilThePlayerChangesIt) {
+    EXPECT_EQ(defaults.text("boccia_option_keys"), std::nullopt);
+    EXPECT_EQ(defaults.text("boccia_option_buttons"), std::nullopt);
+}
+
+TEST_F(ControlsModelTest, TheScreenLeadsBackToTheOptions) {
+    rows.open();
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::controls);
+    rows.addKey(0);
+    rows.close();
+    EXPECT_EQ(openMenu.menuScreen(), MenuScreen::options);
+    EXPECT_FALSE(catcher.isWaiting());
+}
+
+} // namespace vorbel
