@@ -70,6 +70,7 @@ WindowedGame::WindowedGame(QGuiApplication& application, HeldKeys& heldKeys, con
                      [this] { shell_.toggleFullScreenEmulation(true); });
     QGuiApplication::setWindowIcon(windowIcon(resources_));
     application_.installEventFilter(view_.oneSwitch()); // held keys were judged before
+    application_.installEventFilter(&view_.hints());    // sees the switch's keys too: the last is asked first
     heldKeys.setMoving(movingKeys(view_));
 }
 

@@ -40,7 +40,8 @@ void HudModel::refresh(const GameLogic& match, Country country, BocciaClass spor
     }
 }
 
-HudModel::Contents HudModel::contentsOf(const GameLogic& match, Country country, BocciaClass sportClass) {
+HudModel::Contents HudModel::contentsOf(const GameLogic& match, Country country,
+                                        BocciaClass sportClass) const {
     const AppLanguage language = match.language;
     const std::string end = std::to_string(match.currentEnd);
     const std::string_view countryName = L10n::t(key(country), language);
@@ -56,7 +57,7 @@ HudModel::Contents HudModel::contentsOf(const GameLogic& match, Country country,
         .playingAs = text("label.playingAs.format", language, {countryName, rawValue(sportClass)}),
         .rampHint = sportClass == BocciaClass::bc3 ? text("label.rampHint", language) : QString(),
         .difficultyCaption = text("label.aiDifficulty", language),
-        .message = QString::fromStdString(match.message),
+        .message = QString::fromStdString(wording_(match.message)),
         .powerCaption = text("label.throwPower", language),
         .redScore = match.redScore,
         .blueScore = match.blueScore,

@@ -9,6 +9,10 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
+#include <functional>
+#include <string>
+#include <utility>
+
 namespace vorbel {
 
 // All texts in the match's language at the moment of the refresh.
@@ -42,6 +46,9 @@ class HudModel : public QObject {
     Q_PROPERTY(QString powerCaption READ powerCaption NOTIFY changed FINAL)
 
 public:
+    // How messages are worded for this player; until then as the match has them.
+    void setWording(std::function<std::string(const std::string&)> wording) { wording_ = std::move(wording); }
+
     // Takes over the state of the match and what the player chose to play as.
     void refresh(const GameLogic& match, Country country, BocciaClass sportClass);
 
@@ -87,8 +94,11 @@ private:
         bool operator==(const Gauge&) const = default;
     };
 
-    [[nodiscard]] static Contents contentsOf(const GameLogic& match, Country country, BocciaClass sportClass);
+    [[nodiscard]] Contents contentsOf(const GameLogic& match, Country country, BocciaClass sportClass) const;
 
+    std::function<std::string(const std::string&)> wording_ = [](const std::string& message) {
+        return message;
+    };
     Contents contents_;
     Gauge gauge_;
     AppLanguage language_ = AppLanguage::ru;

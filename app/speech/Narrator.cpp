@@ -124,7 +124,7 @@ void Narrator::tell() {
     say({rest ? result(*rest) : "", aimIsLocked || aimBegins ? toldAim_ : "", aimBegins ? jack() : "",
          power ? narration::power(*power, language) : "",
          endIsOver ? narration::score({match_.redScore, match_.blueScore}, language) : "",
-         spokenMessage(message, language)},
+         spokenMessage(wording_(message), language)},
         rest.has_value());
 }
 

@@ -6,8 +6,10 @@
 
 #include <QObject>
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vorbel {
@@ -22,6 +24,9 @@ class Narrator final : public QObject {
 public:
     // All four must outlive it.
     Narrator(const GameLogic& match, const Options& options, MainQueue& queue, Voice& voice);
+
+    // How messages are worded for this player; until then as the match has them.
+    void setWording(std::function<std::string(const std::string&)> wording) { wording_ = std::move(wording); }
 
     void sayEverything(); // where everything lies, at once
 
@@ -52,6 +57,9 @@ private:
     const Options& options_;
     MainQueue& queue_;
     Voice& voice_;
+    std::function<std::string(const std::string&)> wording_ = [](const std::string& message) {
+        return message;
+    };
     std::vector<Subscription> observations_; // none while the option is off
 
     // --- What the next task tells

@@ -43,8 +43,11 @@ ContentView::ContentView(const Platform& platform, UserDefaults& defaults, const
       keyboard_(gameLogic_, openMenu_),
       menu_(gameLogic_, settings_, openMenu_, career_, options_, controls_, catcher_, platform_.resources) {
     connect(&changes_, &MatchChanges::changed, this, &ContentView::refresh);
+    connect(&hints_, &Hints::changed, this, &ContentView::refresh);
     connect(&keyboard_, &Keyboard::menuRequested, this,
             [this] { openMenu_.setMenuScreen(MenuScreen::main); });
+    hud_.setWording(
+        [this](const std::string& message) { return hints_.inForce(message, gameLogic_.language); });
     connect(&settings_, &PlayerSettings::choicesChanged, &changes_, &MatchChanges::tellSoon);
     refresh();
 }
@@ -63,6 +66,7 @@ void ContentView::receiveNotifications(NotificationCenter& center) {
 }
 
 void ContentView::useController(ControllerFamily family) {
+    hints_.useController(family);
     menu_.controls()->setFamily(family);
 }
 

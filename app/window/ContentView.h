@@ -5,6 +5,7 @@
 #include "app/career/CareerRecorder.h"
 #include "app/hud/HudModel.h"
 #include "app/keys/GameControls.h"
+#include "app/keys/Hints.h"
 #include "app/keys/PressCatcher.h"
 #include "app/match/MatchChanges.h"
 #include "app/menu/MenuModel.h"
@@ -79,6 +80,7 @@ public:
     [[nodiscard]] HudModel* hud() { return &hud_; }
     [[nodiscard]] Options* options() { return &options_; }
     [[nodiscard]] GameControls* controls() { return &controls_; }
+    [[nodiscard]] Hints& hints() { return hints_; }
     [[nodiscard]] SoundNotes* soundNotes() { return &soundNotes_; }
     [[nodiscard]] LeaveQuestion* leaving() { return &leaving_; }
     [[nodiscard]] OneSwitch* oneSwitch() { return &oneSwitch_; }
@@ -96,6 +98,7 @@ private:
     PlayerSettings settings_;
     Options options_;
     GameControls controls_;
+    Hints hints_{controls_};
     SoundOptions soundOptions_;
     SoundNotes soundNotes_;
     OpenMenu openMenu_;

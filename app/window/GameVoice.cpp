@@ -8,6 +8,9 @@ GameVoice::GameVoice(ContentView& view, MainQueue& queue)
     : outlets_(*view.announcer(), service_, &Announcer::isHeard),
       narrator_(view.gameLogic(), *view.options(), queue, outlets_),
       focusReader_(*view.options(), *view.settings(), service_) {
+    narrator_.setWording([&view](const std::string& message) {
+        return view.hints().inForce(message, view.gameLogic().language);
+    });
     QObject::connect(view.keyboard(), &Keyboard::everythingRequested, &narrator_, &Narrator::sayEverything);
 }
 

@@ -1,5 +1,8 @@
 // Keys and buttons are changed on their screen, by every way there is; then the keys do what they were given.
+#include "tests/ScriptedControllers.h"
 #include "tests/scenario/menus/MenuWindow.h"
+
+#include "app/controller/ControllerInput.h"
 
 #include "app/controller/ControllerInput.h"
 
@@ -158,6 +161,22 @@ TEST_F(ControlsScreenTest, FineAimFollowsTheKeysOfTheAim) {
     game.press(Qt::Key_Space);
     QTest::keyClick(&game.window(), Qt::Key_D, Qt::ShiftModifier);
     EXPECT_DOUBLE_EQ(match.aimAngle, aim::fineStep);
+}
+
+TEST_F(ControlsScreenTest, AControllerThatWentThroughTheMenusIsStillWhatWasUsedLast) {
+    ScriptedControllers controllers;
+    const ControllerInput input(controllers, game.view(), game.queue());
+    QObject::connect(&input, &ControllerInput::keyPressed, &game.window(),
+                     [this](Qt::Key key) { sendKey(game.window(), key); });
+    QGuiApplication::instance()->installEventFilter(&game.view().hints());
+    game.open(MenuScreen::bcClass);
+    controllers.coming = {{ControllerButton::down, true}, {ControllerButton::down, false}};
+    game.wait(0.1);
+    game.open(MenuScreen::hidden);
+    EXPECT_TRUE(game.view().hud()->message().contains("[A]")) << game.view().hud()->message().toStdString();
+    game.press(Qt::Key_Shift);
+    EXPECT_FALSE(game.view().hud()->message().contains("[A]")) << "now it is the keyboard";
+    QGuiApplication::instance()->removeEventFilter(&game.view().hints());
 }
 
 } // namespace vorbel

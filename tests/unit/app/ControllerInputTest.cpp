@@ -164,6 +164,13 @@ TEST_F(ControllerInputTest, AButtonThatIsAskedForDoesNothingElse) {
     EXPECT_EQ(match.aimState, AimState::idle);
 }
 
+TEST_F(ControllerInputTest, MessagesNameItsButtonsOnceItWasUsed) {
+    speak(AppLanguage::en);
+    appearAndHideMenu();
+    press(ControllerButton::south);
+    EXPECT_TRUE(view.hud()->message().contains("[A]")) << view.hud()->message().toStdString();
+}
+
 TEST_F(ControllerInputTest, WithoutAControllerItLooksTwiceASecond) {
     controllers.connected = false;
     platform.queue.advance(1);

@@ -1,4 +1,4 @@
-// Keys and buttons as the player changes them.
+// Keys and buttons as the player changes them, and what messages say of them then.
 #include "tests/unit/app/ViewFixture.h"
 
 namespace vorbel {
@@ -28,6 +28,10 @@ protected:
         catcher.pressButton(static_cast<int>(button));
     }
     [[nodiscard]] std::string news() const { return rows.news().toStdString(); }
+    [[nodiscard]] std::string shown() {
+        letQueueRun();
+        return view.hud()->message().toStdString();
+    }
 };
 
 TEST_F(ControlsModelTest, EachActionShowsItsKeysAndButtons) {
@@ -116,6 +120,37 @@ TEST_F(ControlsModelTest, TheScreenLeadsBackToTheOptions) {
     rows.close();
     EXPECT_EQ(openMenu.menuScreen(), MenuScreen::options);
     EXPECT_FALSE(catcher.isWaiting());
+}
+
+TEST_F(ControlsModelTest, MessagesNameTheKeyInForce) {
+    appearAndHideMenu();
+    match.message = "Arrows [←][→] and [↑][↓] to aim. [SPACE] - ok.";
+    EXPECT_EQ(shown(), "Arrows [←][→] and [↑][↓] to aim. [SPACE] - ok.");
+    addKey(GameAction::accept, Qt::Key_A);
+    EXPECT_EQ(shown(), "Arrows [←][→] and [↑][↓] to aim. [SPACE] - ok.") << "that one still works";
+    rows.removeKey(row(GameAction::accept), 0);
+    addKey(GameAction::right, Qt::Key_D);
+    rows.removeKey(row(GameAction::right), 0);
+    EXPECT_EQ(shown(), "Arrows [←][D] and [↑][↓] to aim. [A] - ok.");
+}
+
+TEST_F(ControlsModelTest, MessagesNameTheButtonOfTheControllerThatWasUsedLast) {
+    appearAndHideMenu();
+    match.message = "[SPACE] Lock throw power";
+    view.useController(ControllerFamily::letters);
+    EXPECT_EQ(shown(), "[A] Lock throw power");
+    view.useController(ControllerFamily::shapes);
+    EXPECT_EQ(shown(), "[Cross] Lock throw power");
+    addButton(GameAction::accept, ControllerButton::rightShoulder);
+    rows.removeButton(row(GameAction::accept), 0);
+    EXPECT_EQ(shown(), "[R1] Lock throw power");
+    view.hints().useKeyboard();
+    EXPECT_EQ(shown(), "[SPACE] Lock throw power");
+    addButton(GameAction::accept,
+              static_cast<ControllerButton>(static_cast<int>(ControllerButton::first) + 4));
+    rows.removeButton(row(GameAction::accept), 0);
+    view.useController(ControllerFamily::letters);
+    EXPECT_EQ(shown(), "[Button 5] Lock throw power");
 }
 
 } // namespace vorbel
