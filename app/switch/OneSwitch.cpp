@@ -48,7 +48,7 @@ bool OneSwitch::isSwitchKey(const QEvent& event) const {
 }
 
 bool OneSwitch::isMenuOpen() const {
-    return !openMenu_.isHidden();
+    return !openMenu_.isHidden() || (menu_ && menu_->isDropDownOpen());
 }
 
 void OneSwitch::followOptions() {
@@ -112,6 +112,11 @@ QString OneSwitch::prompt() const {
     }
     const auto key = throw_.prompt();
     return key ? text(*key, settings_.selectedLanguage()) : QString();
+}
+
+QString OneSwitch::spoken() const {
+    const QString written = prompt();
+    return written.isEmpty() && isOn() && isMenuOpen() && menu_ ? menu_->name() : written;
 }
 
 bool OneSwitch::eventFilter(QObject* receiver, QEvent* event) {

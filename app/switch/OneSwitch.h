@@ -47,6 +47,7 @@ public:
     [[nodiscard]] bool isSwitch(int key) const; // while the option is on
     [[nodiscard]] QRectF frame() const;         // around what a press would take, in the window; may be empty
     [[nodiscard]] QString prompt() const;       // what a press would do; empty where that is seen
+    [[nodiscard]] QString spoken() const; // the same for who does not see; empty where the focus says it
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 

@@ -5,6 +5,7 @@
 
 #include <QPointer>
 #include <QRectF>
+#include <QString>
 
 #include <vector>
 
@@ -13,7 +14,8 @@ class QQuickWindow;
 
 namespace vorbel {
 
-// Walks through the controls of the open screen that take the keyboard. Main thread only.
+// Walks through the controls of the open screen that take the keyboard, and the titles of the menu bar; or, while a
+// menu of the bar is open, through its commands. Main thread only.
 class SwitchMenu {
 public:
     // The window must outlive it.
@@ -23,16 +25,23 @@ public:
     void advance();   // offers the next
     void press();     // presses what is offered
 
+    [[nodiscard]] bool isDropDownOpen() const;
+    // What is offered, where the focus alone does not say it.
+    [[nodiscard]] QString name() const;
     [[nodiscard]] QRectF frame() const; // around what is offered, in the window; empty while the walk rests
 
 private:
+    using Controls = std::vector<QPointer<QQuickItem>>;
+
     void gather();
+    void gatherScreen();
     [[nodiscard]] bool isUpToDate() const; // all that was gathered is still there to be pressed
     void show();
     void activate(QQuickItem& control);
 
     QQuickWindow& window_;
-    std::vector<QPointer<QQuickItem>> controls_;
+    Controls controls_;
+    bool inDropDown_ = false;
     MenuWalk walk_{{}};
 };
 

@@ -8,6 +8,15 @@ T.MenuItem {
     id: control
 
     property string keys: ""
+    readonly property bool switchCommand: true // for one switch
+
+    function take() {
+        menu.dismiss();
+        triggered();
+    }
+    function leave() {
+        menu.dismiss();
+    }
 
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
@@ -15,10 +24,7 @@ T.MenuItem {
     verticalPadding: 6
     Accessible.name: text
     Accessible.description: keys
-    Accessible.onPressAction: {
-        menu.dismiss();
-        triggered();
-    }
+    Accessible.onPressAction: take()
 
     contentItem: RowLayout {
         spacing: 32

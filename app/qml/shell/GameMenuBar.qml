@@ -8,11 +8,12 @@ Item {
     id: edge
 
     required property VorbelApp shell
+    required property bool kept // in full screen too: one switch does not reach the edge
 
     signal closed() // the menu: the keyboard is free again
 
     readonly property bool menuOpen: gameMenu.visible || optionsMenu.visible
-    readonly property bool revealed: !shell.inFullScreen || hover.hovered || menuOpen
+    readonly property bool revealed: !shell.inFullScreen || hover.hovered || menuOpen || kept
     readonly property real coveredHeight: bar.y + bar.height // of the window
 
     height: revealed ? bar.height : 2

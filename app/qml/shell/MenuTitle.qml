@@ -6,12 +6,18 @@ import Vorbel
 T.MenuBarItem {
     id: control
 
+    readonly property bool switchTitle: true // one switch gets here though Tab does not
+
+    function take() {
+        menu.visible ? menu.close() : menu.open();
+    }
+
     implicitHeight: 30
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
     horizontalPadding: 14
     focusPolicy: Qt.NoFocus
     Accessible.name: text
-    Accessible.onPressAction: menu.visible ? menu.close() : menu.open()
+    Accessible.onPressAction: take()
 
     contentItem: Text {
         text: control.text

@@ -88,6 +88,7 @@ Window {
             id: gameMenu
             width: parent.width
             shell: window.shell
+            kept: window.view.oneSwitch.on && window.view.menu.open
             onClosed: game.forceActiveFocus(Qt.TabFocusReason) // so that its ring is shown again
         }
     }

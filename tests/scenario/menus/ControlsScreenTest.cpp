@@ -179,4 +179,52 @@ TEST_F(ControlsScreenTest, AControllerThatWentThroughTheMenusIsStillWhatWasUsedL
     QGuiApplication::instance()->removeEventFilter(&game.view().hints());
 }
 
+TEST_F(ControlsScreenTest, TheMenusOfTheBarAreOfferedToOneSwitch) {
+    game.view().options()->set(Option::switchRest, 0);
+    game.view().options()->set(Option::switchOn, 1);
+    game.open(MenuScreen::main);
+    game.layOut();
+    const auto takeWhenOffered = [&](const QString& text) {
+        for (int step = 0; step < 400; ++step) {
+            game.wait(0.3);
+            std::vector<QQuickItem*> offered;
+            collect(
+                *game.window().contentItem(),
+                [&](QQuickItem& item) {
+                    return item.property("text") == text && one.frame() == inScene(item);
+                },
+                offered);
+            if (!offered.empty()) {
+                game.press(Qt::Key_Space);
+                return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(takeWhenOffered("Game"));
+    EXPECT_TRUE(takeWhenOffered("About"));
+    EXPECT_EQ(game.view().openMenu().menuScreen(), MenuScreen::about);
+    EXPECT_TRUE(takeWhenOffered("Options"));
+    EXPECT_TRUE(takeWhenOffered(QStringLiteral("Options …")));
+    EXPECT_EQ(game.view().openMenu().menuScreen(), MenuScreen::options);
+    expectNoComplaints();
+}
+
+TEST_F(ControlsScreenTest, AMenuOfTheBarClosesAfterTwoRoundsWithoutAPress) {
+    game.view().options()->set(Option::switchRest, 0);
+    game.view().options()->set(Option::switchOn, 1);
+    game.open(MenuScreen::main);
+    game.layOut();
+    for (int step = 0; step < 400 && one.spoken() != "Game"; ++step) {
+        game.wait(0.3);
+    }
+    ASSERT_EQ(one.spoken(), "Game");
+    game.press(Qt::Key_Space);
+    ASSERT_NE(game.button(QStringLiteral("Toggle Full Screen")), nullptr);
+    game.wait(2 * 4 * 1.5 + 1.5);
+    EXPECT_EQ(game.button(QStringLiteral("Toggle Full Screen")), nullptr);
+    game.wait(1.5);
+    EXPECT_FALSE(one.frame().isEmpty()) << "the screen is offered again";
+}
+
 } // namespace vorbel
