@@ -40,8 +40,16 @@ void SwitchThrow::follow() {
     }
 }
 
+// After both choices were offered twice.
+bool SwitchThrow::rests() const {
+    return stage() == Stage::begin && options_.isOn(Option::speech) && beats_ >= 4 * beatsOfAChoice;
+}
+
 void SwitchThrow::beat() {
     follow();
+    if (rests()) {
+        return;
+    }
     switch (stage()) {
     case Stage::begin:
     case Stage::asked:
@@ -66,6 +74,10 @@ void SwitchThrow::beat() {
 
 SwitchThrow::Result SwitchThrow::press() {
     follow();
+    if (rests()) {
+        beats_ = 0;
+        return Result::done;
+    }
     switch (stage()) {
     case Stage::begin:
         if (second_) {
@@ -147,6 +159,9 @@ void SwitchThrow::sweepPower() {
 }
 
 std::optional<TextKey> SwitchThrow::prompt() const {
+    if (rests()) {
+        return TextKey("switch.resting");
+    }
     switch (stage()) {
     case Stage::begin:
         return second_ ? TextKey("menu.mainMenu") : TextKey("switch.begin");

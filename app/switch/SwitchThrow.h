@@ -31,7 +31,8 @@ private:
     enum class Stage { waiting, begin, angle, pitch, power, asked, goOn };
 
     [[nodiscard]] Stage stage() const;
-    void follow(); // forgets what belonged to a stage that is over
+    [[nodiscard]] bool rests() const; // whoever listens is not told the same for ever
+    void follow();                    // forgets what belonged to a stage that is over
     void aim();
     void lockPower();
     void answer();

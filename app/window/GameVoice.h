@@ -4,6 +4,7 @@
 #include "app/speech/FocusReader.h"
 #include "app/speech/Narrator.h"
 #include "app/speech/Outlets.h"
+#include "app/speech/PromptVoice.h"
 #include "platform/speech/SpeechService.h"
 
 namespace vorbel {
@@ -21,6 +22,7 @@ private:
     Outlets outlets_;
     Narrator narrator_;
     FocusReader focusReader_;
+    PromptVoice promptVoice_;
 };
 
 } // namespace vorbel
