@@ -41,6 +41,7 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "options.voice",
     "options.speech",
     "options.speech.help",
+    "aim.everything",
 
     "options.sight",
     "options.ballMarks",

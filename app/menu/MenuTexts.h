@@ -35,6 +35,7 @@ class MenuTexts : public QObject {
     Q_PROPERTY(QString aimDown READ aimDown NOTIFY changed FINAL)
     Q_PROPERTY(QString aimOk READ aimOk NOTIFY changed FINAL)
     Q_PROPERTY(QString takeBack READ takeBack NOTIFY changed FINAL)
+    Q_PROPERTY(QString everything READ everything NOTIFY changed FINAL)
     Q_PROPERTY(QString diaryEmpty READ diaryEmpty NOTIFY changed FINAL)
 
 public:
@@ -64,6 +65,7 @@ public:
     [[nodiscard]] QString aimDown() const { return t("aim.down"); }
     [[nodiscard]] QString aimOk() const { return t("aim.ok"); }
     [[nodiscard]] QString takeBack() const { return t("aim.takeBack"); }
+    [[nodiscard]] QString everything() const { return t("aim.everything"); }
     [[nodiscard]] QString diaryEmpty() const { return t("diary.empty"); }
 
 signals:

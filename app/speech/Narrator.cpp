@@ -111,17 +111,24 @@ void Narrator::tellSoon() {
 void Narrator::tell() {
     isDue_ = false;
     const auto rest = std::exchange(rest_, std::nullopt);
-    const auto power = std::exchange(power_, std::nullopt);
+    auto power = std::exchange(power_, std::nullopt);
     const std::string message = std::exchange(message_, {});
     const bool endIsOver = std::exchange(endIsOver_, false);
     const bool aimBegins = std::exchange(aimBegins_, false) && humanAims();
-    const bool aimIsLocked = std::exchange(aimIsLocked_, false) && toldAim_ != aim();
+    const bool powerBegins = std::exchange(aimIsLocked_, false);
+    const bool aimIsLocked = powerBegins && toldAim_ != aim();
     if (aimBegins || aimIsLocked) {
         toldAim_ = aim();
     }
     const AppLanguage language = match_.language;
+    const std::string lastAim = toldAim_;
+    if (powerBegins &&
+        match_.humanSetsPower()) { // who changes it has to know where it is: it may be the last end's
+        power = match_.aimPower;
+        toldAim_ = narration::power(*power, language);
+    }
     // The message last: it says what to do next, and most do not end as a sentence does.
-    say({rest ? result(*rest) : "", aimIsLocked || aimBegins ? toldAim_ : "", aimBegins ? jack() : "",
+    say({rest ? result(*rest) : "", aimIsLocked || aimBegins ? lastAim : "", aimBegins ? jack() : "",
          power ? narration::power(*power, language) : "",
          endIsOver ? narration::score({match_.redScore, match_.blueScore}, language) : "",
          spokenMessage(wording_(message), language)},

@@ -41,6 +41,7 @@ inline constexpr auto ar = std::to_array<Text>({
     {"options.voice", "النطق والنغمات"},
     {"options.speech", "نطق ما يجري"},
     {"options.speech.help", "تُنطق الرسائل والتصويب ومواضع الكرات. المفتاح W يعيد نطقها."},
+    {"aim.everything", "اذكر المواضع"},
 
     {"options.sight", "الرؤية"},
     {"options.ballMarks", "علامات على الكرات"},

@@ -45,6 +45,7 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.speech", "Ansagen"},
     {"options.speech.help", "Angesagt werden Meldungen, Zielrichtung und Lage der Bälle. Die Taste W "
                             "wiederholt die Ansage."},
+    {"aim.everything", "Lage ansagen"},
 
     {"options.sight", "Sehen"},
     {"options.ballMarks", "Zeichen auf den Bällen"},

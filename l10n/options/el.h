@@ -44,6 +44,7 @@ inline constexpr auto el = std::to_array<Text>({
     {"options.speech", "Ομιλία"},
     {"options.speech.help",
      "Ακούτε τα μηνύματα, τη στόχευση και πού βρίσκονται οι μπάλες. Το πλήκτρο W τα επαναλαμβάνει."},
+    {"aim.everything", "Πού είναι όλα"},
 
     {"options.sight", "Όραση"},
     {"options.ballMarks", "Σημάδια στις μπάλες"},

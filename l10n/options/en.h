@@ -42,6 +42,7 @@ inline constexpr auto en = std::to_array<Text>({
     {"options.voice", "Voice and tones"},
     {"options.speech", "Speech"},
     {"options.speech.help", "Messages, the aim and where the balls lie are spoken. The key W says it again."},
+    {"aim.everything", "Say positions"},
 
     {"options.sight", "Seeing"},
     {"options.ballMarks", "Marks on the balls"},

@@ -44,6 +44,7 @@ inline constexpr auto es = std::to_array<Text>({
     {"options.speech", "Voz"},
     {"options.speech.help", "El juego dice los mensajes, la puntería y dónde están las bolas. La tecla W lo "
                             "repite."},
+    {"aim.everything", "Decir posiciones"},
 
     {"options.sight", "Visión"},
     {"options.ballMarks", "Marcas en las bolas"},

@@ -46,6 +46,7 @@ inline constexpr auto fr = std::to_array<Text>({
     {"options.speech", "Voix"},
     {"options.speech.help", "Les messages, la visée et la position des balles sont dits à voix haute. La "
                             "touche W les répète."},
+    {"aim.everything", "Dire les positions"},
 
     {"options.sight", "Vision"},
     {"options.ballMarks", "Marques sur les balles"},

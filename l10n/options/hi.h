@@ -40,6 +40,7 @@ inline constexpr auto hi = std::to_array<Text>({
     {"options.voice", "आवाज़ और सुर"},
     {"options.speech", "बोलकर बताएँ"},
     {"options.speech.help", "संदेश, निशाना और गेंदों की जगह बोलकर बताई जाती है। W कुंजी से फिर सुनें।"},
+    {"aim.everything", "जगहें बताएँ"},
 
     {"options.sight", "देखने में मदद"},
     {"options.ballMarks", "गेंदों पर चिह्न"},

@@ -44,6 +44,7 @@ inline constexpr auto id = std::to_array<Text>({
     {"options.voice", "Suara dan nada"},
     {"options.speech", "Narasi"},
     {"options.speech.help", "Pesan, bidikan, dan letak bola dibacakan. Tombol W mengulanginya."},
+    {"aim.everything", "Sebutkan posisi"},
 
     {"options.sight", "Tampilan"},
     {"options.ballMarks", "Tanda pada bola"},

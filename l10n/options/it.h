@@ -45,6 +45,7 @@ inline constexpr auto it = std::to_array<Text>({
     {"options.speech", "Voce"},
     {"options.speech.help", "Il gioco dice i messaggi, la mira e la posizione delle bocce. Il tasto W li "
                             "ripete."},
+    {"aim.everything", "Di’ le posizioni"},
 
     {"options.sight", "Vista"},
     {"options.ballMarks", "Segni sulle bocce"},

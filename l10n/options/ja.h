@@ -43,6 +43,7 @@ inline constexpr auto ja = std::to_array<Text>({
     {"options.voice", "読み上げと合図音"},
     {"options.speech", "読み上げ"},
     {"options.speech.help", "メッセージ、狙い、ボールの位置を読み上げます。Wキーでもう一度聞けます。"},
+    {"aim.everything", "位置を読み上げ"},
 
     {"options.sight", "見やすさ"},
     {"options.ballMarks", "ボールの目印"},

@@ -41,6 +41,7 @@ inline constexpr auto ko = std::to_array<Text>({
     {"options.voice", "음성과 신호음"},
     {"options.speech", "음성 안내"},
     {"options.speech.help", "메시지, 조준 상태, 공의 위치를 읽어 줍니다. W 키를 누르면 다시 들려줍니다."},
+    {"aim.everything", "위치 듣기"},
 
     {"options.sight", "시각"},
     {"options.ballMarks", "공 무늬"},

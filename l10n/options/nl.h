@@ -45,6 +45,7 @@ inline constexpr auto nl = std::to_array<Text>({
     {"options.speech", "Spraak"},
     {"options.speech.help",
      "Meldingen, de richting en de ligging van de ballen worden voorgelezen. Toets W herhaalt ze."},
+    {"aim.everything", "Waar alles ligt"},
 
     {"options.sight", "Beeld"},
     {"options.ballMarks", "Tekens op de ballen"},

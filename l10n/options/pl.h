@@ -46,6 +46,7 @@ inline constexpr auto pl = std::to_array<Text>({
     {"options.speech", "Mowa"},
     {"options.speech.help",
      "Gra czyta na głos komunikaty, ustawienie rzutu i położenie bil. Klawisz W powtarza."},
+    {"aim.everything", "Co gdzie leży"},
 
     {"options.sight", "Wzrok"},
     {"options.ballMarks", "Znaki na bilach"},

@@ -44,6 +44,7 @@ inline constexpr auto pt = std::to_array<Text>({
     {"options.voice", "Voz e tons"},
     {"options.speech", "Voz"},
     {"options.speech.help", "O jogo fala as mensagens, a mira e onde estão as bolas. A tecla W repete."},
+    {"aim.everything", "Dizer as posições"},
 
     {"options.sight", "Visão"},
     {"options.ballMarks", "Marcas nas bolas"},

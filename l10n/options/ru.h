@@ -42,6 +42,7 @@ inline constexpr auto ru = std::to_array<Text>({
     {"options.voice", "Голос и сигналы"},
     {"options.speech", "Озвучивание"},
     {"options.speech.help", "Сообщения, прицел и положение мячей звучат вслух. Клавиша W повторяет."},
+    {"aim.everything", "Где что лежит"},
 
     {"options.sight", "Зрение"},
     {"options.ballMarks", "Метки на мячах"},

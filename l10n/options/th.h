@@ -41,6 +41,7 @@ inline constexpr auto th = std::to_array<Text>({
     {"options.voice", "เสียงพูดและเสียงสัญญาณ"},
     {"options.speech", "เสียงพูด"},
     {"options.speech.help", "อ่านข้อความ การเล็ง และตำแหน่งของลูกให้ฟัง กด W เพื่อฟังอีกครั้ง"},
+    {"aim.everything", "บอกตำแหน่ง"},
 
     {"options.sight", "การมองเห็น"},
     {"options.ballMarks", "เครื่องหมายบนลูกบอล"},

@@ -42,6 +42,7 @@ inline constexpr auto tr = std::to_array<Text>({
     {"options.voice", "Anlatım ve tonlar"},
     {"options.speech", "Sesli anlatım"},
     {"options.speech.help", "Mesajlar, nişan ve topların yeri sesli okunur. W tuşu yeniden okur."},
+    {"aim.everything", "Konumları söyle"},
 
     {"options.sight", "Görünüm"},
     {"options.ballMarks", "Toplarda işaret"},

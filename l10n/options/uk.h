@@ -42,6 +42,7 @@ inline constexpr auto uk = std::to_array<Text>({
     {"options.voice", "Голос і сигнали"},
     {"options.speech", "Озвучення"},
     {"options.speech.help", "Повідомлення, приціл і розташування м’ячів звучать уголос. Клавіша W повторює."},
+    {"aim.everything", "Де що лежить"},
 
     {"options.sight", "Зір"},
     {"options.ballMarks", "Позначки на м’ячах"},

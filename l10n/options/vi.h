@@ -43,6 +43,7 @@ inline constexpr auto vi = std::to_array<Text>({
     {"options.voice", "Giọng đọc và âm báo"},
     {"options.speech", "Giọng đọc"},
     {"options.speech.help", "Đọc thông báo, góc ngắm và vị trí các quả bóng. Nhấn phím W để nghe lại."},
+    {"aim.everything", "Đọc vị trí"},
 
     {"options.sight", "Hiển thị"},
     {"options.ballMarks", "Ký hiệu trên bóng"},

@@ -40,6 +40,7 @@ inline constexpr auto zh = std::to_array<Text>({
     {"options.voice", "语音与提示音"},
     {"options.speech", "语音播报"},
     {"options.speech.help", "播报消息、瞄准情况和各球位置。按W键可重听。"},
+    {"aim.everything", "播报位置"},
 
     {"options.sight", "视觉"},
     {"options.ballMarks", "球上标记"},

@@ -20,7 +20,8 @@ def _joined(literals):
 
 def table(language):
     """All texts of a language, by key."""
-    source = "".join((FOLDER / folder / f"{language}.h").read_text(encoding="utf-8") for folder in ("texts", "extra"))
+    source = "".join((FOLDER / folder / f"{language}.h").read_text(encoding="utf-8")
+                     for folder in ("texts", "extra", "options"))
     entries = re.findall(r'\{\s*"([\w.]+)",\s*(' + LITERAL + r"(?:\s*" + LITERAL + r")*)\}", source)
     return {key: _joined(literals) for key, literals in entries}
 

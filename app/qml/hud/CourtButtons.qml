@@ -1,4 +1,5 @@
-// By option: everything that the game's keys do, for the mouse or a finger alone. Held, a button of the aim repeats.
+// By option: everything that the game's keys do, for the mouse, a finger or assistive technology alone. Held, a button of
+// the aim repeats.
 import QtQuick
 import Vorbel
 
@@ -7,32 +8,63 @@ Column {
 
     required property Keyboard keyboard
     required property MenuTexts texts
+    required property Options options
+
+    readonly property int side: 56
 
     spacing: Theme.gap
 
     Grid {
         anchors.horizontalCenter: parent.horizontalCenter
         columns: 3
+        horizontalItemAlignment: Grid.AlignHCenter
         spacing: Theme.gap
         LayoutMirroring.enabled: false // left is left on every court
         LayoutMirroring.childrenInherit: true
 
-        Item { width: 56; height: 56 }
+        Item { width: buttons.side; height: buttons.side }
         CourtButton { text: "↑"; name: buttons.texts.aimUp; autoRepeat: true; onClicked: buttons.keyboard.pressUp() }
-        Item { width: 56; height: 56 }
+        Leap { text: "+10"; needed: buttons.options.powerByHand; onClicked: buttons.keyboard.pressPageUp() }
         CourtButton { text: "←"; name: buttons.texts.aimLeft; autoRepeat: true; onClicked: buttons.keyboard.pressLeft() }
-        CourtButton { text: buttons.texts.aimOk; name: text; width: 56; font.pixelSize: Theme.headline; onClicked: buttons.keyboard.pressAction() }
+        CourtButton { text: buttons.texts.aimOk; name: text; font.pixelSize: Theme.headline; onClicked: buttons.keyboard.pressAction() }
         CourtButton { text: "→"; name: buttons.texts.aimRight; autoRepeat: true; onClicked: buttons.keyboard.pressRight() }
-        Item { width: 56; height: 56 }
+        Item { width: buttons.side; height: buttons.side }
         CourtButton { text: "↓"; name: buttons.texts.aimDown; autoRepeat: true; onClicked: buttons.keyboard.pressDown() }
-        Item { width: 56; height: 56 }
+        Leap { text: "−10"; needed: buttons.options.powerByHand; onClicked: buttons.keyboard.pressPageDown() }
     }
-    CourtButton {
-        anchors.horizontalCenter: parent.horizontalCenter
+    Words { text: buttons.texts.takeBack; onClicked: buttons.keyboard.pressTakeBack() }
+    Words {
+        text: buttons.texts.everything
+        visible: buttons.options.speech
+        onClicked: buttons.keyboard.pressEverything()
+    }
+
+    // A quick change of a power that is set by hand; it keeps its place in the grid where it is not needed.
+    component Leap: Item {
+        id: leap
+
+        required property bool needed
+        property alias text: button.text
+
+        signal clicked
+
+        width: button.implicitHeight
+        height: button.implicitHeight
+
+        CourtButton {
+            id: button
+            name: text
+            visible: leap.needed
+            width: leap.width
+            font.pixelSize: Theme.headline
+            autoRepeat: true
+            onClicked: leap.clicked()
+        }
+    }
+    component Words: CourtButton {
+        anchors.horizontalCenter: parent?.horizontalCenter
         implicitHeight: 48
-        text: buttons.texts.takeBack
         name: text
         font.pixelSize: Theme.body
-        onClicked: buttons.keyboard.pressTakeBack()
     }
 }

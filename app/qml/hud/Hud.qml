@@ -57,6 +57,7 @@ Item {
             anchors { right: parent?.right; rightMargin: Theme.margin; verticalCenter: parent?.verticalCenter }
             keyboard: display.view.keyboard
             texts: display.view.menu.texts
+            options: display.view.options
         }
     }
     Column {

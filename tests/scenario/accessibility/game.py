@@ -11,9 +11,10 @@ import gi
 import pyatspi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import GLib  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE = 30  # s, on a busy machine without a graphics card
+Atspi.set_timeout(PATIENCE * 1000, PATIENCE * 1000)  # ms; an answer may have to wait for a screen to be made
 INTERACTIVE = {"push button", "radio button", "check box", "link", "menu item"}
 
 

@@ -139,6 +139,28 @@ TEST_F(HelpedPlayTest, ButtonsOnTheCourtAimThrowAndTakeBack) {
     }
 }
 
+TEST_F(HelpedPlayTest, WhoSetsThePowerByHandOrListensHasButtonsForThatToo) {
+    Options& options = *game.view().options();
+    options.set(Option::courtButtons, 1);
+    game.open(MenuScreen::hidden);
+    for (const char* text : {"+10", "−10", "Say positions"}) {
+        EXPECT_EQ(game.button(QString::fromUtf8(text)), nullptr) << text;
+    }
+    options.set(Option::powerPace, 0);
+    options.set(Option::speech, 1);
+    game.layOut();
+    const auto click = [this](const char* text) { game.click(*game.button(QString::fromUtf8(text))); };
+    for (const char* text : {"OK", "OK", "+10", "+10", "+10", "−10", "↑"}) {
+        click(text);
+    }
+    EXPECT_EQ(match.aimPower, aim::startPower + 21);
+    int asked = 0;
+    QObject::connect(game.view().keyboard(), &Keyboard::everythingRequested, &game.window(),
+                     [&] { ++asked; });
+    click("Say positions");
+    EXPECT_EQ(asked, 1);
+}
+
 TEST_F(HelpedPlayTest, FromTheStartToTheResultAndBackInTheMenuWithAControllerAlone) {
     ScriptedControllers controllers;
     const ControllerInput input(controllers, game.view(), game.queue());

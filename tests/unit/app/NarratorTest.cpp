@@ -161,6 +161,21 @@ TEST_F(NarratorTest, APowerThatIsSetByHandIsSaidOnceItRests) {
     EXPECT_EQ(voice.take(), "Power 31 of 100.");
 }
 
+TEST_F(NarratorTest, APowerThatWaitsToBeSetByHandIsSaidAtOnceForItMayBeTheLastEnds) {
+    turnOn();
+    view.options()->set(Option::powerPace, 0);
+    redIsToThrow();
+    beginAim();
+    static_cast<void>(voice.take());
+    setup.state().aimPower = 55;
+    keyboard.pressAction();
+    letQueueRun();
+    EXPECT_EQ(voice.take(), "Power 55 of 100. Up, Down set the power. SPACE throws");
+    keyboard.pressUp();
+    wait(1);
+    EXPECT_EQ(voice.take(), "Power 56 of 100.");
+}
+
 TEST_F(NarratorTest, AfterAThrowItSaysWhereTheBallLiesWhoIsClosestAndWhoseTurnItIs) {
     turnOn();
     redIsToThrow();
