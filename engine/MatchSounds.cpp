@@ -1,5 +1,7 @@
 #include "engine/MatchSounds.h"
 
+#include "rules/CourtGeometry.h"
+
 #include <iostream>
 
 namespace vorbel {
@@ -10,6 +12,13 @@ MatchSounds::MatchSounds(Audio& audio, const Resources& resources)
       throw_(audio.systemSound("Pop")),
       hit_(audio.systemSound("Tink")),
       score_(audio.systemSound("Glass")) {}
+
+void MatchSounds::playHit(const Vec3& place) {
+    if (hit_) {
+        hit_->setPan(static_cast<float>(place.x / court::sideLine));
+    }
+    restart(hit_.get());
+}
 
 void MatchSounds::startCrowdNoise() {
     constexpr float volume = 0.4F; // of full: a murmur behind the effects

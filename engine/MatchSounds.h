@@ -1,6 +1,7 @@
 // What is heard of a match. A sound that is missing is silent.
 #pragma once
 
+#include "math/Vector.h"
 #include "platform/Platform.h"
 
 #include <memory>
@@ -14,7 +15,7 @@ public:
 
     // From the beginning, also while the former one still sounds.
     void playThrow() { restart(throw_.get()); }
-    void playHit() { restart(hit_.get()); }
+    void playHit(const Vec3& place); // on the court; heard there, between its side lines
     void playScore() { restart(score_.get()); }
 
     // The murmur of the crowd, for ever. Says so on the console when there is a file that cannot be played.

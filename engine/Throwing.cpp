@@ -46,7 +46,8 @@ void GameLogic::checkPhysics() {
 
 void GameLogic::physicsWorldDidBegin(const Node& nodeA, const Node& nodeB) {
     if (isBall(nodeA) && isBall(nodeB) && isAudible(speedOf(nodeA), speedOf(nodeB))) {
-        platform_.mainQueue.post(lifetime_.whileAlive([this] { sounds_.playHit(); }));
+        const Vec3 place = (nodeA.position() + nodeB.position()) / 2.0;
+        platform_.mainQueue.post(lifetime_.whileAlive([this, place] { sounds_.playHit(place); }));
     }
 }
 

@@ -2,12 +2,15 @@
 
 #include "platform/audio/MixerDevice.h"
 #include "platform/audio/Mp3Stream.h"
+#include "platform/audio/Panning.h"
+#include "platform/audio/SdlTone.h"
 
 #include <SDL_mixer.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cmath>
+#include <numbers>
 
 namespace vorbel {
 
@@ -22,9 +25,13 @@ public:
 
     void play() override {
         if (!isSounding()) {
-            channel_ = Mix_PlayChannel(-1, chunk_.get(), 0);
+            channel_ = Mix_GroupAvailable(-1);
+            placeOn(channel_);
+            channel_ = Mix_PlayChannel(channel_, chunk_.get(), 0);
         }
     }
+
+    void setPan(float pan) override { pan_ = pan; }
 
     void setVolume(float volume) override {
         const float loudness = std::clamp(volume, 0.0F, 1.0F) * static_cast<float>(MIX_MAX_VOLUME);
@@ -38,6 +45,18 @@ public:
     }
 
 private:
+    // The mixer forgets it when the channel comes to its end. In the middle the effect is heard as it is in its file.
+    void placeOn(int channel) const {
+        if (channel >= 0 && pan_ != 0) {
+            const Panning sides = panning(pan_);
+            const auto share = [](double gain) {
+                constexpr double full = 255;
+                return static_cast<Uint8>(std::lround(full * std::min(1.0, std::numbers::sqrt2 * gain)));
+            };
+            Mix_SetPanning(channel, share(sides.left), share(sides.right));
+        }
+    }
+
     // The mixer may have given the channel to another effect since.
     [[nodiscard]] bool isSounding() const {
         return channel_ >= 0 && Mix_Playing(channel_) != 0 && Mix_GetChunk(channel_) == chunk_.get();
@@ -46,6 +65,7 @@ private:
     std::shared_ptr<MixerDevice> device_; // outlives the chunk
     Chunk chunk_;
     int channel_ = -1; // where it was last played
+    float pan_ = 0;
 };
 
 // A stream on the mixer's hook for music. The mixer could play the file itself, but its MP3 decoder writes
@@ -128,6 +148,10 @@ std::unique_ptr<SystemSound> SdlAudio::systemSound(std::string_view name) {
 std::unique_ptr<AudioPlayer> SdlAudio::player(const std::filesystem::path& file) {
     auto stream = device_ ? Mp3Stream::open(file, MixerDevice::sampleRate) : nullptr;
     return stream ? std::make_unique<Track>(device_, std::move(stream)) : nullptr;
+}
+
+std::unique_ptr<Tone> SdlAudio::tone() {
+    return device_ ? std::make_unique<SdlTone>(device_) : nullptr;
 }
 
 } // namespace vorbel

@@ -19,6 +19,7 @@ public:
 
     [[nodiscard]] std::unique_ptr<SystemSound> systemSound(std::string_view name) override;
     [[nodiscard]] std::unique_ptr<AudioPlayer> player(const std::filesystem::path& file) override;
+    [[nodiscard]] std::unique_ptr<Tone> tone() override;
 
 private:
     const Resources& resources_;

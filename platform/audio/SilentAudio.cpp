@@ -8,12 +8,19 @@ class SilentSound final : public SystemSound {
     void play() override {}
     void setVolume(float /*volume*/) override {}
     void stop() override {}
+    void setPan(float /*pan*/) override {}
 };
 
 class SilentPlayer final : public AudioPlayer {
     void setLoopCount(int /*count*/) override {}
     void setVolume(float /*volume*/) override {}
     void play() override {}
+};
+
+class SilentTone final : public Tone {
+    void sound(double /*pitch*/, double /*pan*/) override {}
+    void silence() override {}
+    void setVolume(float /*volume*/) override {}
 };
 
 } // namespace
@@ -24,6 +31,10 @@ std::unique_ptr<SystemSound> SilentAudio::systemSound(std::string_view /*name*/)
 
 std::unique_ptr<AudioPlayer> SilentAudio::player(const std::filesystem::path& /*file*/) {
     return std::make_unique<SilentPlayer>();
+}
+
+std::unique_ptr<Tone> SilentAudio::tone() {
+    return std::make_unique<SilentTone>();
 }
 
 } // namespace vorbel

@@ -46,6 +46,7 @@ TEST_F(CrowdTest, AMissingEffectIsSilent) {
     class NoAudio final : public Audio {
         std::unique_ptr<SystemSound> systemSound(std::string_view) override { return nullptr; }
         std::unique_ptr<AudioPlayer> player(const std::filesystem::path&) override { return nullptr; }
+        std::unique_ptr<Tone> tone() override { return nullptr; }
     };
     NoAudio none;
     const Resources nothing;

@@ -6,13 +6,15 @@ namespace {
 
 class SpySound final : public SystemSound {
 public:
-    explicit SpySound(std::string& log) : log_(log) {}
+    SpySound(std::string& log, float& pan) : log_(log), pan_(pan) {}
     void play() override { log_ += "play "; }
     void stop() override { log_ += "stop "; }
     void setVolume(float /*volume*/) override {}
+    void setPan(float pan) override { pan_ = pan; }
 
 private:
     std::string& log_;
+    float& pan_;
 };
 
 class SpyPlayer final : public AudioPlayer {
@@ -29,7 +31,7 @@ private:
 } // namespace
 
 std::unique_ptr<SystemSound> SpyAudio::systemSound(std::string_view name) {
-    return std::make_unique<SpySound>(log[std::string(name)]);
+    return std::make_unique<SpySound>(log[std::string(name)], pan[std::string(name)]);
 }
 
 std::unique_ptr<AudioPlayer> SpyAudio::player(const std::filesystem::path& /*file*/) {

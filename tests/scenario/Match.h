@@ -17,8 +17,10 @@ class SpyAudio final : public Audio {
 public:
     [[nodiscard]] std::unique_ptr<SystemSound> systemSound(std::string_view name) override;
     [[nodiscard]] std::unique_ptr<AudioPlayer> player(const std::filesystem::path& file) override;
+    [[nodiscard]] std::unique_ptr<Tone> tone() override { return nullptr; }
 
     std::map<std::string, std::string> log; // by sound: "stop play stop play …"
+    std::map<std::string, float> pan;       // by sound: where it was last put
     std::string crowd;                      // what was done to the crowd's player
     bool filesAreBroken = false;
 };

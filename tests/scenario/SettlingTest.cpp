@@ -97,6 +97,23 @@ TEST_F(SettlingTest, AnAudibleStrikeClicksOnce) {
     EXPECT_EQ(audio.log["Tink"], "stop play ");
 }
 
+TEST_F(SettlingTest, AClickIsHeardBetweenTheSideLinesWhereTheBallsMeet) {
+    Node red("red");
+    Node blue("blue");
+    red.body = std::make_shared<PhysicsBody>(PhysicsBody{.velocity = {1, 0, 0}});
+    struct Case {
+        double red, blue; // m from the middle
+        float pan;
+    };
+    for (const auto& [redX, blueX, pan] : {Case{0, 0, 0}, Case{-3, -3, -1}, Case{1.4, 1.6, 0.5F}}) {
+        red.setPosition({redX, 0, -4});
+        blue.setPosition({blueX, 0, -4});
+        game.physicsWorldDidBegin(red, blue);
+        queue.advance(0);
+        EXPECT_NEAR(audio.pan["Tink"], pan, 1e-6);
+    }
+}
+
 TEST_F(SettlingTest, WallAndFloorMakeNoClick) {
     const Node::Ptr ball = redAt(1, -12.2);
     ball->setPosition({1, 0.3, -12.2});

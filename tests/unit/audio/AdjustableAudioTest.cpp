@@ -11,23 +11,35 @@ namespace vorbel {
 
 namespace {
 
-// Remembers the last volume of each sound, and of the one player as "player".
+// Remembers the last volume of each sound, of the one player as "player" and of the tone as "tone"; and the sounds' pans.
 class Volumes final : public Audio {
 public:
     std::map<std::string, float> of;
+    std::map<std::string, float> pans;
 
     [[nodiscard]] std::unique_ptr<SystemSound> systemSound(std::string_view name) override {
-        return name == "missing" ? nullptr : std::make_unique<Sound>(of[std::string(name)]);
+        return name == "missing" ? nullptr
+                                 : std::make_unique<Sound>(of[std::string(name)], pans[std::string(name)]);
     }
     [[nodiscard]] std::unique_ptr<AudioPlayer> player(const std::filesystem::path& file) override {
         return file.empty() ? nullptr : std::make_unique<Player>(of["player"]);
     }
+    [[nodiscard]] std::unique_ptr<vorbel::Tone> tone() override { return std::make_unique<Tone>(of["tone"]); }
 
 private:
     struct Sound final : SystemSound {
-        explicit Sound(float& volume) : volume_(volume) {}
+        Sound(float& volume, float& pan) : volume_(volume), pan_(pan) {}
         void play() override {}
         void stop() override {}
+        void setVolume(float volume) override { volume_ = volume; }
+        void setPan(float pan) override { pan_ = pan; }
+        float& volume_;
+        float& pan_;
+    };
+    struct Tone final : vorbel::Tone {
+        explicit Tone(float& volume) : volume_(volume) {}
+        void sound(double /*pitch*/, double /*pan*/) override {}
+        void silence() override {}
         void setVolume(float volume) override { volume_ = volume; }
         float& volume_;
     };
@@ -88,6 +100,28 @@ TEST_F(AdjustableAudioTest, EachEffectIsToldByNameWhenItIsPlayedAlsoWhenItIsSile
     pop->play();
     pop->stop();
     EXPECT_EQ(told, (std::vector<std::string>{"Tink", "Pop"}));
+}
+
+TEST_F(AdjustableAudioTest, ATonesVolumeIsThatOfTheSounds) {
+    audio.setSoundVolume(0.5F);
+    const auto tone = audio.tone();
+    EXPECT_EQ(volumes.of["tone"], 0.5F);
+    audio.setSoundVolume(0);
+    EXPECT_EQ(volumes.of["tone"], 0);
+    audio.setPlayerVolume(0.25F);
+    EXPECT_EQ(volumes.of["tone"], 0);
+}
+
+TEST_F(AdjustableAudioTest, SoundsAreInTheMiddleUnlessTheyArePlaced) {
+    const auto tink = audio.systemSound("Tink");
+    tink->setPan(-0.5F);
+    EXPECT_EQ(volumes.pans["Tink"], 0);
+    audio.placeSounds(true);
+    EXPECT_EQ(volumes.pans["Tink"], -0.5F);
+    tink->setPan(1);
+    EXPECT_EQ(volumes.pans["Tink"], 1);
+    audio.placeSounds(false);
+    EXPECT_EQ(volumes.pans["Tink"], 0);
 }
 
 TEST_F(AdjustableAudioTest, WhatIsGoneIsLeftAlone) {
