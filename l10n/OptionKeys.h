@@ -42,6 +42,8 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "options.speech",
     "options.speech.help",
     "aim.everything",
+    "options.tones",
+    "options.tones.help",
 
     "options.sight",
     "options.ballMarks",

@@ -20,6 +20,7 @@ enum class Option : std::uint8_t {
     courtButtons,
     controller,
     speech,
+    tones,
     ballMarks,
     ballOutlines,
     clearPointer,

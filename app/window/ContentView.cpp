@@ -40,6 +40,7 @@ ContentView::ContentView(const Platform& platform, UserDefaults& defaults, const
       recorder_(gameLogic_, career_, [this] { openMenu_.setMenuScreen(MenuScreen::matchResult); }),
       changes_(gameLogic_, platform.mainQueue),
       sightOptions_(gameLogic_.scene, options_, changes_),
+      aimTone_(gameLogic_, options_, changes_, audio_, platform.mainQueue),
       keyboard_(gameLogic_, openMenu_),
       menu_(gameLogic_, settings_, openMenu_, career_, options_, controls_, catcher_, platform_.resources) {
     connect(&changes_, &MatchChanges::changed, this, &ContentView::refresh);

@@ -17,6 +17,7 @@
 #include "app/options/SoundOptions.h"
 #include "app/screen/OpenMenu.h"
 #include "app/settings/PlayerSettings.h"
+#include "app/speech/AimTone.h"
 #include "app/speech/Announcer.h"
 #include "app/switch/OneSwitch.h"
 #include "app/window/Keyboard.h"
@@ -110,6 +111,7 @@ private:
     CareerRecorder recorder_;
     MatchChanges changes_;
     SightOptions sightOptions_;
+    AimTone aimTone_;
     Keyboard keyboard_;
     HudModel hud_;
     Announcer announcer_;

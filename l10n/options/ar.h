@@ -42,6 +42,8 @@ inline constexpr auto ar = std::to_array<Text>({
     {"options.speech", "نطق ما يجري"},
     {"options.speech.help", "تُنطق الرسائل والتصويب ومواضع الكرات. المفتاح W يعيد نطقها."},
     {"aim.everything", "اذكر المواضع"},
+    {"options.tones", "نغمات التصويب"},
+    {"options.tones.help", "ترتفع النغمة مع القوة، وتنتقل من اليسار إلى اليمين مع الزاوية."},
 
     {"options.sight", "الرؤية"},
     {"options.ballMarks", "علامات على الكرات"},

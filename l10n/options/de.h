@@ -46,6 +46,9 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.speech.help", "Angesagt werden Meldungen, Zielrichtung und Lage der Bälle. Die Taste W "
                             "wiederholt die Ansage."},
     {"aim.everything", "Lage ansagen"},
+    {"options.tones", "Töne beim Zielen"},
+    {"options.tones.help", "Ein Ton steigt mit der Wurfstärke und wandert mit dem Winkel von links nach "
+                           "rechts."},
 
     {"options.sight", "Sehen"},
     {"options.ballMarks", "Zeichen auf den Bällen"},

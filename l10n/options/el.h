@@ -45,6 +45,9 @@ inline constexpr auto el = std::to_array<Text>({
     {"options.speech.help",
      "Ακούτε τα μηνύματα, τη στόχευση και πού βρίσκονται οι μπάλες. Το πλήκτρο W τα επαναλαμβάνει."},
     {"aim.everything", "Πού είναι όλα"},
+    {"options.tones", "Τόνοι στόχευσης"},
+    {"options.tones.help",
+     "Ο τόνος ανεβαίνει με τη δύναμη και πηγαίνει από αριστερά προς τα δεξιά με τη γωνία."},
 
     {"options.sight", "Όραση"},
     {"options.ballMarks", "Σημάδια στις μπάλες"},

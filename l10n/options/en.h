@@ -43,6 +43,8 @@ inline constexpr auto en = std::to_array<Text>({
     {"options.speech", "Speech"},
     {"options.speech.help", "Messages, the aim and where the balls lie are spoken. The key W says it again."},
     {"aim.everything", "Say positions"},
+    {"options.tones", "Tones for the aim"},
+    {"options.tones.help", "A tone rises with the power and moves from left to right with the angle."},
 
     {"options.sight", "Seeing"},
     {"options.ballMarks", "Marks on the balls"},

@@ -45,6 +45,8 @@ inline constexpr auto es = std::to_array<Text>({
     {"options.speech.help", "El juego dice los mensajes, la puntería y dónde están las bolas. La tecla W lo "
                             "repite."},
     {"aim.everything", "Decir posiciones"},
+    {"options.tones", "Tonos al apuntar"},
+    {"options.tones.help", "Un tono sube con la fuerza y va de izquierda a derecha con el ángulo."},
 
     {"options.sight", "Visión"},
     {"options.ballMarks", "Marcas en las bolas"},

@@ -47,6 +47,8 @@ inline constexpr auto fr = std::to_array<Text>({
     {"options.speech.help", "Les messages, la visée et la position des balles sont dits à voix haute. La "
                             "touche W les répète."},
     {"aim.everything", "Dire les positions"},
+    {"options.tones", "Repères sonores de visée"},
+    {"options.tones.help", "Un son monte avec la force et passe de gauche à droite avec l’angle."},
 
     {"options.sight", "Vision"},
     {"options.ballMarks", "Marques sur les balles"},

@@ -41,6 +41,8 @@ inline constexpr auto hi = std::to_array<Text>({
     {"options.speech", "बोलकर बताएँ"},
     {"options.speech.help", "संदेश, निशाना और गेंदों की जगह बोलकर बताई जाती है। W कुंजी से फिर सुनें।"},
     {"aim.everything", "जगहें बताएँ"},
+    {"options.tones", "निशाने के सुर"},
+    {"options.tones.help", "ताकत बढ़ने पर सुर ऊँचा होता है और कोण के साथ बाएँ से दाएँ जाता है।"},
 
     {"options.sight", "देखने में मदद"},
     {"options.ballMarks", "गेंदों पर चिह्न"},

@@ -45,6 +45,9 @@ inline constexpr auto id = std::to_array<Text>({
     {"options.speech", "Narasi"},
     {"options.speech.help", "Pesan, bidikan, dan letak bola dibacakan. Tombol W mengulanginya."},
     {"aim.everything", "Sebutkan posisi"},
+    {"options.tones", "Nada bidikan"},
+    {"options.tones.help",
+     "Nada makin tinggi mengikuti kekuatan dan bergeser dari kiri ke kanan mengikuti sudut."},
 
     {"options.sight", "Tampilan"},
     {"options.ballMarks", "Tanda pada bola"},

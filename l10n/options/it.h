@@ -46,6 +46,8 @@ inline constexpr auto it = std::to_array<Text>({
     {"options.speech.help", "Il gioco dice i messaggi, la mira e la posizione delle bocce. Il tasto W li "
                             "ripete."},
     {"aim.everything", "Di’ le posizioni"},
+    {"options.tones", "Toni per la mira"},
+    {"options.tones.help", "Un tono sale con la forza e si sposta da sinistra a destra con l’angolo."},
 
     {"options.sight", "Vista"},
     {"options.ballMarks", "Segni sulle bocce"},

@@ -44,6 +44,8 @@ inline constexpr auto ja = std::to_array<Text>({
     {"options.speech", "読み上げ"},
     {"options.speech.help", "メッセージ、狙い、ボールの位置を読み上げます。Wキーでもう一度聞けます。"},
     {"aim.everything", "位置を読み上げ"},
+    {"options.tones", "狙いの合図音"},
+    {"options.tones.help", "パワーが上がると音が高くなり、角度に合わせて音が左右に動きます。"},
 
     {"options.sight", "見やすさ"},
     {"options.ballMarks", "ボールの目印"},

@@ -42,6 +42,8 @@ inline constexpr auto ko = std::to_array<Text>({
     {"options.speech", "음성 안내"},
     {"options.speech.help", "메시지, 조준 상태, 공의 위치를 읽어 줍니다. W 키를 누르면 다시 들려줍니다."},
     {"aim.everything", "위치 듣기"},
+    {"options.tones", "조준 신호음"},
+    {"options.tones.help", "세기가 커지면 음이 높아지고, 각도에 따라 소리가 좌우로 움직입니다."},
 
     {"options.sight", "시각"},
     {"options.ballMarks", "공 무늬"},

@@ -46,6 +46,8 @@ inline constexpr auto nl = std::to_array<Text>({
     {"options.speech.help",
      "Meldingen, de richting en de ligging van de ballen worden voorgelezen. Toets W herhaalt ze."},
     {"aim.everything", "Waar alles ligt"},
+    {"options.tones", "Tonen bij het richten"},
+    {"options.tones.help", "De toon stijgt met de kracht en schuift met de hoek van links naar rechts."},
 
     {"options.sight", "Beeld"},
     {"options.ballMarks", "Tekens op de ballen"},

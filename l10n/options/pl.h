@@ -47,6 +47,8 @@ inline constexpr auto pl = std::to_array<Text>({
     {"options.speech.help",
      "Gra czyta na głos komunikaty, ustawienie rzutu i położenie bil. Klawisz W powtarza."},
     {"aim.everything", "Co gdzie leży"},
+    {"options.tones", "Dźwięki celowania"},
+    {"options.tones.help", "Ton rośnie wraz z siłą i przesuwa się od lewej do prawej wraz z kątem."},
 
     {"options.sight", "Wzrok"},
     {"options.ballMarks", "Znaki na bilach"},

@@ -45,6 +45,8 @@ inline constexpr auto pt = std::to_array<Text>({
     {"options.speech", "Voz"},
     {"options.speech.help", "O jogo fala as mensagens, a mira e onde estão as bolas. A tecla W repete."},
     {"aim.everything", "Dizer as posições"},
+    {"options.tones", "Tons para a mira"},
+    {"options.tones.help", "Um tom sobe com a força e vai da esquerda para a direita com o ângulo."},
 
     {"options.sight", "Visão"},
     {"options.ballMarks", "Marcas nas bolas"},

@@ -43,6 +43,8 @@ inline constexpr auto ru = std::to_array<Text>({
     {"options.speech", "Озвучивание"},
     {"options.speech.help", "Сообщения, прицел и положение мячей звучат вслух. Клавиша W повторяет."},
     {"aim.everything", "Где что лежит"},
+    {"options.tones", "Звуковой прицел"},
+    {"options.tones.help", "Тон повышается вместе с силой и смещается слева направо вместе с углом."},
 
     {"options.sight", "Зрение"},
     {"options.ballMarks", "Метки на мячах"},

@@ -42,6 +42,8 @@ inline constexpr auto th = std::to_array<Text>({
     {"options.speech", "เสียงพูด"},
     {"options.speech.help", "อ่านข้อความ การเล็ง และตำแหน่งของลูกให้ฟัง กด W เพื่อฟังอีกครั้ง"},
     {"aim.everything", "บอกตำแหน่ง"},
+    {"options.tones", "เสียงสัญญาณช่วยเล็ง"},
+    {"options.tones.help", "เสียงสูงขึ้นตามแรงโยน และเลื่อนซ้ายขวาตามมุม"},
 
     {"options.sight", "การมองเห็น"},
     {"options.ballMarks", "เครื่องหมายบนลูกบอล"},

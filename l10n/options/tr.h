@@ -43,6 +43,8 @@ inline constexpr auto tr = std::to_array<Text>({
     {"options.speech", "Sesli anlatım"},
     {"options.speech.help", "Mesajlar, nişan ve topların yeri sesli okunur. W tuşu yeniden okur."},
     {"aim.everything", "Konumları söyle"},
+    {"options.tones", "Nişan tonu"},
+    {"options.tones.help", "Güç arttıkça ton tizleşir, açı değiştikçe soldan sağa kayar."},
 
     {"options.sight", "Görünüm"},
     {"options.ballMarks", "Toplarda işaret"},

@@ -43,6 +43,8 @@ inline constexpr auto uk = std::to_array<Text>({
     {"options.speech", "Озвучення"},
     {"options.speech.help", "Повідомлення, приціл і розташування м’ячів звучать уголос. Клавіша W повторює."},
     {"aim.everything", "Де що лежить"},
+    {"options.tones", "Звуковий приціл"},
+    {"options.tones.help", "Тон вищає разом із силою та зміщується зліва направо разом із кутом."},
 
     {"options.sight", "Зір"},
     {"options.ballMarks", "Позначки на м’ячах"},

@@ -44,6 +44,8 @@ inline constexpr auto vi = std::to_array<Text>({
     {"options.speech", "Giọng đọc"},
     {"options.speech.help", "Đọc thông báo, góc ngắm và vị trí các quả bóng. Nhấn phím W để nghe lại."},
     {"aim.everything", "Đọc vị trí"},
+    {"options.tones", "Âm báo khi ngắm"},
+    {"options.tones.help", "Âm báo cao dần theo lực và chuyển từ trái sang phải theo góc."},
 
     {"options.sight", "Hiển thị"},
     {"options.ballMarks", "Ký hiệu trên bóng"},

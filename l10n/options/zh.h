@@ -41,6 +41,8 @@ inline constexpr auto zh = std::to_array<Text>({
     {"options.speech", "语音播报"},
     {"options.speech.help", "播报消息、瞄准情况和各球位置。按W键可重听。"},
     {"aim.everything", "播报位置"},
+    {"options.tones", "瞄准提示音"},
+    {"options.tones.help", "力度越大音调越高，声音随角度左右移动。"},
 
     {"options.sight", "视觉"},
     {"options.ballMarks", "球上标记"},
