@@ -44,6 +44,8 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "aim.everything",
     "options.tones",
     "options.tones.help",
+    "options.hitPlaces",
+    "options.hitPlaces.help",
 
     "options.sight",
     "options.ballMarks",

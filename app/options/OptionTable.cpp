@@ -44,6 +44,8 @@ constexpr auto rows = std::to_array<OptionRow>({
      offOrOn, 1}, // whoever presses a button of one has turned it on
     {Option::speech, "speech", "options.voice", "options.speech", "options.speech.help", offOrOn, 0},
     {Option::tones, "tones", "options.voice", "options.tones", "options.tones.help", offOrOn, 0},
+    {Option::hitPlaces, "hitPlaces", "options.voice", "options.hitPlaces", "options.hitPlaces.help", offOrOn,
+     0},
     {Option::ballMarks, "ballMarks", "options.sight", "options.ballMarks", "options.ballMarks.help", offOrOn,
      0},
     {Option::ballOutlines, "ballOutlines", "options.sight", "options.ballOutlines",

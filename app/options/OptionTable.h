@@ -21,6 +21,7 @@ enum class Option : std::uint8_t {
     controller,
     speech,
     tones,
+    hitPlaces,
     ballMarks,
     ballOutlines,
     clearPointer,

@@ -11,6 +11,7 @@ SoundOptions::SoundOptions(AdjustableAudio& audio, const Options& options)
 void SoundOptions::handOver() {
     audio_.setPlayerVolume(volume(Option::crowdVolume));
     audio_.setSoundVolume(volume(Option::effectVolume));
+    audio_.placeSounds(options_.isOn(Option::hitPlaces));
 }
 
 float SoundOptions::volume(Option option) const {

@@ -1,4 +1,4 @@
-// How loud the game is.
+// How loud the game is, and whether its sounds have a place.
 #pragma once
 
 #include "app/options/Options.h"
@@ -8,7 +8,7 @@
 
 namespace vorbel {
 
-// Hands the volumes over to the sound whenever they change. Main thread only.
+// Hands both over to the sound whenever they change. Main thread only.
 class SoundOptions final : public QObject {
     Q_OBJECT
 

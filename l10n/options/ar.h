@@ -44,6 +44,8 @@ inline constexpr auto ar = std::to_array<Text>({
     {"aim.everything", "اذكر المواضع"},
     {"options.tones", "نغمات التصويب"},
     {"options.tones.help", "ترتفع النغمة مع القوة، وتنتقل من اليسار إلى اليمين مع الزاوية."},
+    {"options.hitPlaces", "اصطدامات بصوت مجسّم"},
+    {"options.hitPlaces.help", "يُسمع الاصطدام من جهة الملعب التي تلتقي فيها الكرات."},
 
     {"options.sight", "الرؤية"},
     {"options.ballMarks", "علامات على الكرات"},

@@ -49,6 +49,9 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.tones", "Töne beim Zielen"},
     {"options.tones.help", "Ein Ton steigt mit der Wurfstärke und wandert mit dem Winkel von links nach "
                            "rechts."},
+    {"options.hitPlaces", "Treffer in Stereo"},
+    {"options.hitPlaces.help",
+     "Ein Treffer ist auf der Seite des Spielfelds zu hören, auf der er geschieht."},
 
     {"options.sight", "Sehen"},
     {"options.ballMarks", "Zeichen auf den Bällen"},

@@ -48,6 +48,8 @@ inline constexpr auto el = std::to_array<Text>({
     {"options.tones", "Τόνοι στόχευσης"},
     {"options.tones.help",
      "Ο τόνος ανεβαίνει με τη δύναμη και πηγαίνει από αριστερά προς τα δεξιά με τη γωνία."},
+    {"options.hitPlaces", "Στερεοφωνικά χτυπήματα"},
+    {"options.hitPlaces.help", "Κάθε χτύπημα ακούγεται από την πλευρά του γηπέδου όπου γίνεται."},
 
     {"options.sight", "Όραση"},
     {"options.ballMarks", "Σημάδια στις μπάλες"},

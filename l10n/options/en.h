@@ -45,6 +45,8 @@ inline constexpr auto en = std::to_array<Text>({
     {"aim.everything", "Say positions"},
     {"options.tones", "Tones for the aim"},
     {"options.tones.help", "A tone rises with the power and moves from left to right with the angle."},
+    {"options.hitPlaces", "Hits in stereo"},
+    {"options.hitPlaces.help", "A hit is heard on the side of the court where the balls meet."},
 
     {"options.sight", "Seeing"},
     {"options.ballMarks", "Marks on the balls"},

@@ -49,6 +49,8 @@ inline constexpr auto fr = std::to_array<Text>({
     {"aim.everything", "Dire les positions"},
     {"options.tones", "Repères sonores de visée"},
     {"options.tones.help", "Un son monte avec la force et passe de gauche à droite avec l’angle."},
+    {"options.hitPlaces", "Chocs en stéréo"},
+    {"options.hitPlaces.help", "Chaque choc s’entend du côté du terrain où il a lieu."},
 
     {"options.sight", "Vision"},
     {"options.ballMarks", "Marques sur les balles"},

@@ -48,6 +48,8 @@ inline constexpr auto id = std::to_array<Text>({
     {"options.tones", "Nada bidikan"},
     {"options.tones.help",
      "Nada makin tinggi mengikuti kekuatan dan bergeser dari kiri ke kanan mengikuti sudut."},
+    {"options.hitPlaces", "Benturan dalam stereo"},
+    {"options.hitPlaces.help", "Bunyi benturan terdengar dari sisi lapangan tempat bola berbenturan."},
 
     {"options.sight", "Tampilan"},
     {"options.ballMarks", "Tanda pada bola"},

@@ -48,6 +48,8 @@ inline constexpr auto it = std::to_array<Text>({
     {"aim.everything", "Di’ le posizioni"},
     {"options.tones", "Toni per la mira"},
     {"options.tones.help", "Un tono sale con la forza e si sposta da sinistra a destra con l’angolo."},
+    {"options.hitPlaces", "Urti in stereo"},
+    {"options.hitPlaces.help", "Ogni urto si sente dal lato del campo in cui avviene."},
 
     {"options.sight", "Vista"},
     {"options.ballMarks", "Segni sulle bocce"},

@@ -46,6 +46,8 @@ inline constexpr auto ja = std::to_array<Text>({
     {"aim.everything", "位置を読み上げ"},
     {"options.tones", "狙いの合図音"},
     {"options.tones.help", "パワーが上がると音が高くなり、角度に合わせて音が左右に動きます。"},
+    {"options.hitPlaces", "衝突音をステレオに"},
+    {"options.hitPlaces.help", "ボールがぶつかった側から音が聞こえます。"},
 
     {"options.sight", "見やすさ"},
     {"options.ballMarks", "ボールの目印"},

@@ -49,6 +49,8 @@ inline constexpr auto pl = std::to_array<Text>({
     {"aim.everything", "Co gdzie leży"},
     {"options.tones", "Dźwięki celowania"},
     {"options.tones.help", "Ton rośnie wraz z siłą i przesuwa się od lewej do prawej wraz z kątem."},
+    {"options.hitPlaces", "Uderzenia w stereo"},
+    {"options.hitPlaces.help", "Uderzenie słychać z tej strony boiska, po której zderzyły się bile."},
 
     {"options.sight", "Wzrok"},
     {"options.ballMarks", "Znaki na bilach"},

@@ -47,6 +47,8 @@ inline constexpr auto pt = std::to_array<Text>({
     {"aim.everything", "Dizer as posições"},
     {"options.tones", "Tons para a mira"},
     {"options.tones.help", "Um tom sobe com a força e vai da esquerda para a direita com o ângulo."},
+    {"options.hitPlaces", "Choques em estéreo"},
+    {"options.hitPlaces.help", "Cada choque se ouve do lado do campo de jogo em que acontece."},
 
     {"options.sight", "Visão"},
     {"options.ballMarks", "Marcas nas bolas"},

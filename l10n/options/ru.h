@@ -45,6 +45,8 @@ inline constexpr auto ru = std::to_array<Text>({
     {"aim.everything", "Где что лежит"},
     {"options.tones", "Звуковой прицел"},
     {"options.tones.help", "Тон повышается вместе с силой и смещается слева направо вместе с углом."},
+    {"options.hitPlaces", "Удары в стерео"},
+    {"options.hitPlaces.help", "Удар слышен с той стороны площадки, где столкнулись мячи."},
 
     {"options.sight", "Зрение"},
     {"options.ballMarks", "Метки на мячах"},

@@ -44,6 +44,8 @@ inline constexpr auto th = std::to_array<Text>({
     {"aim.everything", "บอกตำแหน่ง"},
     {"options.tones", "เสียงสัญญาณช่วยเล็ง"},
     {"options.tones.help", "เสียงสูงขึ้นตามแรงโยน และเลื่อนซ้ายขวาตามมุม"},
+    {"options.hitPlaces", "เสียงกระทบแบบสเตอริโอ"},
+    {"options.hitPlaces.help", "ได้ยินเสียงกระทบจากฝั่งของสนามที่ลูกชนกัน"},
 
     {"options.sight", "การมองเห็น"},
     {"options.ballMarks", "เครื่องหมายบนลูกบอล"},

@@ -45,6 +45,8 @@ inline constexpr auto tr = std::to_array<Text>({
     {"aim.everything", "Konumları söyle"},
     {"options.tones", "Nişan tonu"},
     {"options.tones.help", "Güç arttıkça ton tizleşir, açı değiştikçe soldan sağa kayar."},
+    {"options.hitPlaces", "Stereo çarpma sesi"},
+    {"options.hitPlaces.help", "Çarpma sesi, sahada topların çarpıştığı taraftan duyulur."},
 
     {"options.sight", "Görünüm"},
     {"options.ballMarks", "Toplarda işaret"},

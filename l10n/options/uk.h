@@ -45,6 +45,8 @@ inline constexpr auto uk = std::to_array<Text>({
     {"aim.everything", "Де що лежить"},
     {"options.tones", "Звуковий приціл"},
     {"options.tones.help", "Тон вищає разом із силою та зміщується зліва направо разом із кутом."},
+    {"options.hitPlaces", "Удари у стерео"},
+    {"options.hitPlaces.help", "Удар чути з того боку майданчика, де зіткнулися м’ячі."},
 
     {"options.sight", "Зір"},
     {"options.ballMarks", "Позначки на м’ячах"},

@@ -46,6 +46,8 @@ inline constexpr auto vi = std::to_array<Text>({
     {"aim.everything", "Đọc vị trí"},
     {"options.tones", "Âm báo khi ngắm"},
     {"options.tones.help", "Âm báo cao dần theo lực và chuyển từ trái sang phải theo góc."},
+    {"options.hitPlaces", "Va chạm theo âm thanh nổi"},
+    {"options.hitPlaces.help", "Tiếng va chạm vang lên từ phía sân nơi hai quả bóng chạm nhau."},
 
     {"options.sight", "Hiển thị"},
     {"options.ballMarks", "Ký hiệu trên bóng"},

@@ -43,6 +43,8 @@ inline constexpr auto zh = std::to_array<Text>({
     {"aim.everything", "播报位置"},
     {"options.tones", "瞄准提示音"},
     {"options.tones.help", "力度越大音调越高，声音随角度左右移动。"},
+    {"options.hitPlaces", "碰撞立体声"},
+    {"options.hitPlaces.help", "碰撞声从球相碰的那一侧传来。"},
 
     {"options.sight", "视觉"},
     {"options.ballMarks", "球上标记"},
