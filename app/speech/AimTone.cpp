@@ -1,7 +1,7 @@
 #include "app/speech/AimTone.h"
 
+#include "app/match/MatchChanges.h"
 #include "app/options/Options.h"
-#include "app/window/MatchChanges.h"
 #include "engine/GameLogic.h"
 #include "narration/Tones.h"
 

@@ -45,9 +45,10 @@ public:
 
 private:
     static bool divide(const char* name, const QRect& place, const char* output) {
-        return xrandr({QStringLiteral("--setmonitor"), QString::fromLatin1(name),
-                       QStringLiteral("%1/300x%2/400+%3+0").arg(place.width()).arg(place.height()).arg(place.left()),
-                       QString::fromLatin1(output)});
+        return xrandr(
+            {QStringLiteral("--setmonitor"), QString::fromLatin1(name),
+             QStringLiteral("%1/300x%2/400+%3+0").arg(place.width()).arg(place.height()).arg(place.left()),
+             QString::fromLatin1(output)});
     }
 
     bool areThere_ = false;
@@ -93,7 +94,8 @@ protected:
         QDir().mkpath(folder);
         QGuiApplication::primaryScreen()
             ->grabWindow(0, 0, 0, 2560, 1600)
-            .save(QStringLiteral("%1/screen-removed-%2%3.png").arg(folder, name, QString::number(GetParam())));
+            .save(
+                QStringLiteral("%1/screen-removed-%2%3.png").arg(folder, name, QString::number(GetParam())));
     }
 
     std::optional<TwoScreens> screens;
@@ -105,7 +107,8 @@ protected:
 TEST_P(ScreenRemovedTest, TheWindowComesWholeToTheOneThatRemainsAndTheMatchGoesOn) {
     play();
     ASSERT_TRUE(TwoScreens::remove("right"));
-    EXPECT_TRUE(waitUntil([this] { return isOn(left); })) << window->frame().left() << ", " << window->frame().top();
+    EXPECT_TRUE(waitUntil([this] { return isOn(left); }))
+        << window->frame().left() << ", " << window->frame().top();
     EXPECT_EQ(window->frame().size(), windowed);
     EXPECT_TRUE(waitUntil([this] { return showsCourt(); }));
     keepPicture(QStringLiteral("windowed"));
