@@ -102,6 +102,18 @@ TEST_F(AimingHelpTest, ThePowerIsTakenBackFirstThenTheAim) {
     EXPECT_EQ(game.aimState, AimState::idle);
 }
 
+TEST_F(AimingHelpTest, WhoObservesAPowerTakenBackHearsOfTheStageFirst) {
+    press();
+    press();
+    ticks(10);
+    std::string told;
+    const Subscription stage = game.aimState.onWillChange([&](AimState) { told += "state "; });
+    const Subscription power = game.aimPower.onWillChange([&](double) { told += "power "; });
+    const Subscription message = game.message.onWillChange([&](const std::string&) { told += "message "; });
+    game.takeBack();
+    EXPECT_EQ(told, "state power message ");
+}
+
 TEST_F(AimingHelpTest, AReleasedBallIsNotTakenBack) {
     press(3);
     game.takeBack();

@@ -165,6 +165,16 @@ TEST_F(EndFlowTest, EndsAlternateTheJack) {
     EXPECT_EQ(message(), "End 4 started. Blue's turn. [SPACE] to aim");
 }
 
+TEST_F(EndFlowTest, TheFirstJackOfANewEndIsJudgedAfresh) {
+    jackRestsAt(0.5, -1.4);
+    jackRestsAt(0.5, -6);
+    state.phase = GamePhase::endOver;
+    press();
+    jackRestsAt(0.5, -1.4);
+    EXPECT_EQ(game.phase, GamePhase::throwingJack);
+    EXPECT_EQ(game.currentTurn, BallColor::red);
+}
+
 TEST_F(EndFlowTest, ANewEndStartsFromTheLastAim) {
     state.aimAngle = 0.4;
     state.aimPower = 63;

@@ -60,6 +60,18 @@ TEST_F(SettlingTest, ASlowBallCountsAsSettledAndIsFrozen) {
     EXPECT_EQ(ball->body->velocity, Vec3(0));
 }
 
+TEST_F(SettlingTest, WhoHearsOfTheNextTurnFindsTheBallsAtRest) {
+    throwUnderWay();
+    const Node::Ptr ball = redAt(0, -3);
+    Vec3 heardAt{1, 0, 0};
+    const Subscription stage = game.aimState.onWillChange([&](AimState) { heardAt = ball->body->velocity; });
+    for (int i = 1; i <= 150; ++i) {
+        ball->body->velocity = {0, 0, -0.3};
+        ticks(1);
+    }
+    EXPECT_EQ(heardAt, Vec3(0));
+}
+
 TEST_F(SettlingTest, ABallAtTheTopOfItsArcHasNotSettled) {
     throwUnderWay();
     const Node::Ptr ball = redAt(0, -3);
