@@ -72,7 +72,7 @@ class ManualPages(unittest.TestCase):
             told = read(f"docs/man/{page}").replace("\\-", "-")
             options = set(re.findall(r"^ +(--[a-z-]+)", answer(program, "--help"), re.MULTILINE))
             self.assertGreater(len(options), 4)
-            self.assertEqual(options, set(re.findall(r"^\.BI? (--[a-z-]+)", told, re.MULTILINE)), page)
+            self.assertEqual(options, set(re.findall(r"^\.B[IR]? (--[a-z-]+)", told, re.MULTILINE)), page)
 
 
 if __name__ == "__main__":
