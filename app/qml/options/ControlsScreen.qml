@@ -80,7 +80,7 @@ MenuBackdrop {
             x: Theme.padding // the scroll bar is at one side or the other
             y: 2 * Theme.ring
             width: view.width - 2 * Theme.padding
-            spacing: 12
+            spacing: 10
 
             Repeater {
                 model: screen.controls
@@ -105,6 +105,7 @@ MenuBackdrop {
         Layout.alignment: Qt.AlignHCenter
     }
     MenuButton {
+        implicitWidth: 340
         text: screen.controls.resetTitle
         onClicked: screen.controls.reset()
     }
