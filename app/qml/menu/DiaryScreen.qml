@@ -34,7 +34,7 @@ MenuBackdrop {
         model: screen.career.diary
         currentIndex: -1 // the list itself has the keyboard
         clip: true
-        reuseItems: true
+        cacheBuffer: 0 // a row made ahead of its time lies on the first one until it gets its place
         boundsBehavior: Flickable.StopAtBounds
         activeFocusOnTab: contentHeight > height || activeFocus
         Layout.preferredWidth: 480
