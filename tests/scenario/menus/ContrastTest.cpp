@@ -3,6 +3,8 @@
 #include "tests/MatchSetup.h"
 #include "tests/scenario/menus/MenuWindow.h"
 
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 namespace vorbel {
@@ -19,9 +21,7 @@ protected:
 
     ContrastTest() { game.setLanguage(AppLanguage::en); }
 
-    // How many texts were looked at.
-    int expectLegible(QQuickItem& root) {
-        game.layOut();
+    static std::vector<QQuickItem*> textsOf(QQuickItem& root) {
         std::vector<QQuickItem*> texts;
         collect(
             root,
@@ -32,6 +32,12 @@ protected:
                 return isOfType(item, "QQuickText") && !words.isEmpty() && !isFlag;
             },
             texts);
+        return texts;
+    }
+    // How many texts were looked at.
+    int expectLegible(QQuickItem& root) {
+        game.layOut();
+        const std::vector<QQuickItem*> texts = textsOf(root);
         for (QQuickItem* text : texts) {
             for (const QColor& behind : {QColor(Qt::white), QColor(Qt::black), QColor(128, 128, 128)}) {
                 EXPECT_GE(contrastOver(*text, behind), legible)
@@ -55,9 +61,14 @@ TEST_F(ContrastTest, OfTheDisplayDuringAMatch) {
     MatchState& match = MatchSetup(game.view().gameLogic()).state();
     match.tournamentActive = true;
     match.aimState = AimState::aimingPower;
-    game.settle();
-    // Five on each side, seven in the middle, four levels, power and message.
-    EXPECT_EQ(expectLegible(hud()), 2 * 6 + 6 + 4 + 2);
+    // Six on each side, six in the middle, four levels, power and message. What changes while a picture is drawn is
+    // shown after it.
+    constexpr std::size_t all = 2 * 6 + 6 + 4 + 2;
+    ASSERT_TRUE(QTest::qWaitFor([this] {
+        game.settle();
+        return textsOf(hud()).size() == all;
+    }));
+    expectLegible(hud());
 }
 
 TEST_F(ContrastTest, OfEveryScreenOfTheMenu) {
