@@ -1,5 +1,6 @@
 #include "app/replay/ReplayShow.h"
 
+#include "app/keys/PressedKey.h"
 #include "app/window/ContentView.h"
 
 #include <QCoreApplication>
@@ -19,11 +20,6 @@ constexpr std::int64_t ticksBeforeThrow = 50; // that are shown
 // The program's own: full screen, and whatever the desktop does with its keys.
 bool isForWindow(const QKeyEvent& key) {
     return key.matches(QKeySequence::Quit) || key.key() == Qt::Key_F11;
-}
-
-bool isModifier(const QKeyEvent& key) {
-    return key.key() == Qt::Key_Shift || key.key() == Qt::Key_Control || key.key() == Qt::Key_Alt ||
-           key.key() == Qt::Key_AltGr || key.key() == Qt::Key_Meta;
 }
 
 } // namespace
@@ -88,7 +84,7 @@ bool ReplayShow::eventFilter(QObject* receiver, QEvent* event) {
             return false;
         }
         event->accept(); // an override: no shortcut, but a key press
-        if (event->type() == QEvent::KeyPress && !isModifier(key)) {
+        if (event->type() == QEvent::KeyPress && !isModifier(key.key())) {
             leave();
         }
         return true;

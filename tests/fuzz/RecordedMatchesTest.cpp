@@ -1,6 +1,7 @@
 // Many matches, recorded and played again: computers against each other, and random keys with all that a player can do.
 // VORBEL_REPLAYS sets how many there are of either kind; VORBEL_REPLAYS_FOLDER keeps their files.
 #include "recording/Replay.h"
+#include "tests/PlacesOfBalls.h"
 #include "tests/fuzz/RandomPlayer.h"
 #include "tools/sim/MatchPlayer.h"
 
@@ -40,14 +41,6 @@ private:
     };
     Buffer buffer_;
 };
-
-std::vector<Vec3> ballsOf(const GameLogic& game) {
-    const Position thrown = game.thrownBalls();
-    std::vector<Vec3> all = thrown.red;
-    all.insert(all.end(), thrown.blue.begin(), thrown.blue.end());
-    all.push_back(thrown.jack.value_or(Vec3(0)));
-    return all;
-}
 
 void keep(const std::string& text, const std::string& name) {
     if (const char* folder = std::getenv("VORBEL_REPLAYS_FOLDER")) {
@@ -95,7 +88,7 @@ TEST(RecordedMatchesTest, OfComputersGoAgainAsTheyWent) {
         keep(text, "computers-" + std::to_string(i) + ".jsonl");
         const Replayed again(text);
         ASSERT_EQ(again.replay.state(), Replay::State::complete) << "match " << i;
-        EXPECT_EQ(ballsOf(again.game), ballsOf(match.game()));
+        EXPECT_EQ(placesOfBalls(again.game), placesOfBalls(match.game()));
     }
 }
 

@@ -1,10 +1,11 @@
 """What the game says aloud reaches screen readers, by option only."""
 
+import re
 import unittest
 
-import pyatspi
 import texts
-from game import GLib, Folder, Game, wait_until
+from ears import Ears
+from game import Folder, Game, wait_until
 
 EN = texts.table("en")
 
@@ -12,16 +13,8 @@ EN = texts.table("en")
 class SpeechTest(unittest.TestCase):
     def setUp(self):
         self.folder = self.enterContext(Folder())
-        self.announced = []
-        pyatspi.Registry.registerEventListener(self.shown, "object:state-changed:showing")
-        self.addCleanup(pyatspi.Registry.deregisterEventListener, self.shown, "object:state-changed:showing")
-
-    def shown(self, event):
-        try:
-            if event.detail1 and event.source and event.source.getRoleName() == "notification":
-                self.announced.append(event.source.name)
-        except GLib.Error:
-            pass  # a late event of a game that has ended
+        self.ears = Ears()
+        self.addCleanup(self.ears.close)
 
     def aim(self, speech):
         """A match of one's own, up to the aim of its first throw; returns the game."""
@@ -36,7 +29,7 @@ class SpeechTest(unittest.TestCase):
         return game
 
     def wait_for(self, part):
-        wait_until(lambda: any(part in text for text in self.announced), lambda: f"{part} in {self.announced}")
+        self.ears.wait_for(re.escape(part))
 
     def test_the_aim_and_where_everything_lies_are_announced(self):
         game = self.aim(speech=1)
@@ -52,7 +45,7 @@ class SpeechTest(unittest.TestCase):
         game.key("Left", "w")
         game.key("space")
         wait_until(lambda: EN["msg.lockPower"] in game.messages, "the power")
-        self.assertEqual(self.announced, [])
+        self.assertEqual(self.ears.heard, [])
 
 
 if __name__ == "__main__":

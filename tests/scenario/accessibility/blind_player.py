@@ -5,8 +5,7 @@ import itertools
 import math
 import re
 
-import pyatspi
-from game import INTERACTIVE, GLib, identity, wait_until
+from game import INTERACTIVE, identity, wait_until
 
 LENGTH = r"([\d.]+) (centimetre|metre)s?"
 JACK = re.compile(rf"Jack {LENGTH} away, (?:straight ahead|{LENGTH} to the (left|right))\.")
@@ -22,29 +21,6 @@ FIRST_GUESS = 50  # percent, for the first ball of all
 
 def metres(number, unit):
     return 0 if number is None else float(number) / (100 if unit == "centimetre" else 1)
-
-
-class Ears:
-    """What is announced, in order."""
-
-    def __init__(self):
-        self.heard = []
-        pyatspi.Registry.registerEventListener(self._shown, "object:state-changed:showing")
-
-    def close(self):
-        pyatspi.Registry.deregisterEventListener(self._shown, "object:state-changed:showing")
-
-    def _shown(self, event):
-        try:
-            if event.detail1 and event.source and event.source.getRoleName() == "notification":
-                self.heard.append(event.source.name)
-        except GLib.Error:
-            pass  # a late event of a game that has ended
-
-    def wait_for(self, pattern, since, seconds=60):
-        """The first match in what was announced after the first `since` announcements."""
-        return wait_until(lambda: next((m for m in map(re.compile(pattern).search, self.heard[since:]) if m), None),
-                          lambda: f"'{pattern}' in {self.heard[since:]}", seconds)
 
 
 class BlindPlayer:

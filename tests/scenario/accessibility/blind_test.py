@@ -4,7 +4,8 @@ known of it, and what it offers all that is pressed."""
 import unittest
 
 import texts
-from blind_player import BALLS, MY_TURN, BlindPlayer, Ears
+from blind_player import BALLS, MY_TURN, BlindPlayer
+from ears import Ears
 from game import Folder, Game, wait_until
 
 EN = texts.table("en")

@@ -4,8 +4,6 @@
 
 #include "app/controller/ControllerInput.h"
 
-#include "app/controller/ControllerInput.h"
-
 #include <QAccessible>
 #include <QTest>
 
@@ -15,17 +13,12 @@ namespace vorbel {
 
 class ControlsScreenTest : public testing::Test {
 protected:
-    MenuWindow game{Resources({VORBEL_RESOURCES_FOLDER})};
+    MenuWindow game;
     GameControls& controls = *game.view().controls();
-    OneSwitch& one = *game.view().oneSwitch();
+    OneSwitch& one = game.oneSwitch();
     const GameLogic& match = game.view().gameLogic();
 
-    ControlsScreenTest() {
-        game.setLanguage(AppLanguage::en);
-        one.setWindow(game.window());
-        QGuiApplication::instance()->installEventFilter(&one);
-    }
-    ~ControlsScreenTest() override { QGuiApplication::instance()->removeEventFilter(&one); }
+    ControlsScreenTest() { game.setLanguage(AppLanguage::en); }
 
     void open() {
         game.open(MenuScreen::controls);

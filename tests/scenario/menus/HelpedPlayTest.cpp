@@ -28,11 +28,9 @@ protected:
 
 class OneSwitchPlayTest : public HelpedPlayTest {
 protected:
-    OneSwitch& one = *game.view().oneSwitch();
+    OneSwitch& one = game.oneSwitch();
 
     OneSwitchPlayTest() {
-        one.setWindow(game.window());
-        QGuiApplication::instance()->installEventFilter(&one);
         game.view().options()->set(Option::switchRest, 0);
         game.view().options()->set(Option::switchOn, 1);
     }

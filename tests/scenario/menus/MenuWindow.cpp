@@ -69,6 +69,13 @@ void MenuWindow::setLanguage(AppLanguage language) {
     settle();
 }
 
+OneSwitch& MenuWindow::oneSwitch() {
+    OneSwitch& one = *view_.oneSwitch();
+    one.setWindow(*window_);
+    QGuiApplication::instance()->installEventFilter(&one);
+    return one;
+}
+
 void MenuWindow::open(MenuScreen screen) {
     view_.openMenu().setMenuScreen(screen);
     settle();

@@ -28,6 +28,7 @@ public:
     explicit MenuWindow(const Resources& resources = gameResources());
 
     [[nodiscard]] ContentView& view() { return view_; }
+    OneSwitch& oneSwitch(); // listening, as in the game, to all that is pressed
     [[nodiscard]] MemoryDefaults& defaults() { return defaults_; }
     [[nodiscard]] QQuickWindow& window() { return *window_; }
     [[nodiscard]] VirtualQueue& queue() { return platform_.queue; }

@@ -9,16 +9,11 @@ namespace vorbel {
 
 class SwitchKeyTest : public testing::Test {
 protected:
-    MenuWindow game{Resources({VORBEL_RESOURCES_FOLDER})};
+    MenuWindow game;
     Options& options = *game.view().options();
-    OneSwitch& one = *game.view().oneSwitch();
+    OneSwitch& one = game.oneSwitch();
 
-    SwitchKeyTest() {
-        game.setLanguage(AppLanguage::en);
-        one.setWindow(game.window());
-        QGuiApplication::instance()->installEventFilter(&one);
-    }
-    ~SwitchKeyTest() override { QGuiApplication::instance()->removeEventFilter(&one); }
+    SwitchKeyTest() { game.setLanguage(AppLanguage::en); }
 
     // As the player does: on the screen of the options.
     void askForKey() {

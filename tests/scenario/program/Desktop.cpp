@@ -1,10 +1,10 @@
 #include "tests/scenario/program/Desktop.h"
 
-#include <QElapsedTimer>
+#include "tests/WaitUntil.h"
+
 #include <QPixmap>
 #include <QProcess>
 #include <QScreen>
-#include <QThread>
 
 #include <cstdlib>
 
@@ -12,7 +12,7 @@ namespace vorbel {
 
 namespace {
 
-constexpr int lookAgainAfter = 20; // ms
+constexpr std::chrono::milliseconds lookAgainAfter{20};
 
 bool runTool(const QStringList& arguments) {
     QProcess tool;
@@ -92,15 +92,7 @@ bool alike(const QImage& a, const QImage& b) {
 }
 
 bool waitUntil(const std::function<bool()>& condition, int milliseconds) {
-    QElapsedTimer clock;
-    clock.start();
-    while (!condition()) {
-        if (clock.elapsed() > milliseconds) {
-            return false;
-        }
-        QThread::msleep(lookAgainAfter);
-    }
-    return true;
+    return waitUntil(condition, std::chrono::milliseconds(milliseconds), lookAgainAfter);
 }
 
 } // namespace vorbel

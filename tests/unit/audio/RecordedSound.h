@@ -2,11 +2,11 @@
 #pragma once
 
 #include "platform/audio/SdlAudio.h"
+#include "tests/WaitUntil.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
@@ -14,7 +14,6 @@
 #include <iterator>
 #include <numeric>
 #include <span>
-#include <thread>
 #include <vector>
 
 #include <unistd.h>
@@ -92,11 +91,8 @@ protected:
     bool waitForFrames(std::size_t frames) {
         const auto size = [this] { return fs::exists(recording) ? fs::file_size(recording) : 0; };
         const auto wanted = size() + frames * 2 * sizeof(float);
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-        while (size() < wanted && std::chrono::steady_clock::now() < deadline) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(2));
-        }
-        return size() >= wanted;
+        return waitUntil([&] { return size() >= wanted; }, std::chrono::seconds(60),
+                         std::chrono::milliseconds(2));
     }
 
     const fs::path folder = fs::temp_directory_path() / ("vorbel-audio-" + std::to_string(getpid()));

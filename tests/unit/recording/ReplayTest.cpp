@@ -1,5 +1,6 @@
 // A recorded match goes again as it went, or is found out.
 #include "recording/PhysicsId.h"
+#include "tests/PlacesOfBalls.h"
 #include "tests/unit/recording/PlayedMatch.h"
 
 #include <gtest/gtest.h>
@@ -7,14 +8,6 @@
 namespace vorbel::recording {
 
 namespace {
-
-std::vector<Vec3> ballsOf(const GameLogic& game) {
-    const Position thrown = game.thrownBalls();
-    std::vector<Vec3> all = thrown.red;
-    all.insert(all.end(), thrown.blue.begin(), thrown.blue.end());
-    all.push_back(thrown.jack.value_or(Vec3(0)));
-    return all;
-}
 
 Replay::State replayed(const std::string& text) {
     return ReplayedMatch(recordingIn(text)).play();
@@ -64,7 +57,7 @@ TEST(ReplayTest, GoesAsTheMatchWent) {
     const Played played;
     ReplayedMatch again(recordingIn(played.text()));
     EXPECT_EQ(again.play(), Replay::State::complete);
-    EXPECT_EQ(ballsOf(again.game), ballsOf(played.game));
+    EXPECT_EQ(test::placesOfBalls(again.game), test::placesOfBalls(played.game));
     EXPECT_EQ(again.game.endHistory.get(), played.game.endHistory.get());
     EXPECT_EQ(again.game.blueCountry, played.game.blueCountry);
 }
@@ -84,7 +77,7 @@ TEST(ReplayTest, AMatchThatFollowedAnotherDoesNotNeedIt) {
     ASSERT_EQ(match.texts.size(), 2U);
     ReplayedMatch second(recordingIn(*match.texts[1]));
     EXPECT_EQ(second.play(), Replay::State::complete);
-    EXPECT_EQ(ballsOf(second.game), ballsOf(match.game));
+    EXPECT_EQ(test::placesOfBalls(second.game), test::placesOfBalls(match.game));
 }
 
 TEST(ReplayTest, ATournamentBegunWhileTheComputerIsAboutToThrow) {

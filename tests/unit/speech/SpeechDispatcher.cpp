@@ -1,11 +1,11 @@
 #include "tests/unit/speech/SpeechDispatcher.h"
 
+#include "tests/WaitUntil.h"
+
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcessEnvironment>
 #include <QStandardPaths>
-#include <QThread>
 
 #include <functional>
 
@@ -15,13 +15,8 @@ namespace {
 
 constexpr int patience = 30'000; // ms, on a busy machine
 
-bool waitUntil(const std::function<bool()>& condition) {
-    QElapsedTimer clock;
-    clock.start();
-    while (!condition() && clock.elapsed() < patience) {
-        QThread::msleep(5); // between two looks at what another process does
-    }
-    return condition();
+bool comesTrue(const std::function<bool()>& condition) {
+    return waitUntil(condition, std::chrono::milliseconds(patience), std::chrono::milliseconds(5));
 }
 
 } // namespace
@@ -51,7 +46,7 @@ SpeechDispatcher::SpeechDispatcher() {
     service_.start("speech-dispatcher", {"-s", "-C", folder_.path(), "-P", path("pid"), "-c", "unix_socket",
                                          "-S", path("socket")});
     service_.waitForStarted(patience);
-    waitUntil([this] { return QFile::exists(path("socket")); });
+    comesTrue([this] { return QFile::exists(path("socket")); });
     qputenv("SPEECHD_ADDRESS", "unix_socket:" + path("socket").toUtf8());
 }
 
@@ -65,7 +60,7 @@ bool SpeechDispatcher::isRunning() const {
 }
 
 std::string SpeechDispatcher::spoken(int lines) const {
-    waitUntil([this, lines] { return read("spoken").count('\n') >= lines; });
+    comesTrue([this, lines] { return read("spoken").count('\n') >= lines; });
     return read("spoken").toStdString();
 }
 
