@@ -46,6 +46,8 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "options.tones.help",
     "options.hitPlaces",
     "options.hitPlaces.help",
+    "options.textSize",
+    "options.textSize.help",
 
     "options.sight",
     "options.ballMarks",

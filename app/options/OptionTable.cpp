@@ -18,6 +18,8 @@ constexpr std::array rests{OptionChoice{0, seconds}, OptionChoice{250, seconds},
                            OptionChoice{1000, seconds}, OptionChoice{1500, seconds}};
 constexpr std::array volumes{OptionChoice{0, "0"}, OptionChoice{25, "25"}, OptionChoice{50, "50"},
                              OptionChoice{75, "75"}, OptionChoice{100, "100"}};
+constexpr std::array sizes{OptionChoice{100, "100"}, OptionChoice{125, "125"}, OptionChoice{150, "150"},
+                           OptionChoice{175, "175"}, OptionChoice{200, "200"}};
 
 constexpr auto rows = std::to_array<OptionRow>({
     {Option::powerPace, "powerPace", "options.throw", "options.powerPace", "options.powerPace.help", paces,
@@ -46,6 +48,7 @@ constexpr auto rows = std::to_array<OptionRow>({
     {Option::tones, "tones", "options.voice", "options.tones", "options.tones.help", offOrOn, 0},
     {Option::hitPlaces, "hitPlaces", "options.voice", "options.hitPlaces", "options.hitPlaces.help", offOrOn,
      0},
+    {Option::textSize, "textSize", "options.sight", "options.textSize", "options.textSize.help", sizes, 100},
     {Option::ballMarks, "ballMarks", "options.sight", "options.ballMarks", "options.ballMarks.help", offOrOn,
      0},
     {Option::ballOutlines, "ballOutlines", "options.sight", "options.ballOutlines",

@@ -22,6 +22,7 @@ enum class Option : std::uint8_t {
     speech,
     tones,
     hitPlaces,
+    textSize,
     ballMarks,
     ballOutlines,
     clearPointer,

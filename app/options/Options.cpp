@@ -43,6 +43,11 @@ double Options::powerPace() const {
     return value(Option::powerPace) / full;
 }
 
+double Options::textScale() const {
+    constexpr double full = 100; // percent
+    return value(Option::textSize) / full;
+}
+
 void Options::set(Option option, int value) {
     const OptionRow& row = rowOf(option);
     if (!isChoice(row, value) || std::exchange(values_[static_cast<std::size_t>(option)], value) == value) {

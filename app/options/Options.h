@@ -24,6 +24,7 @@ class Options final : public QObject {
     Q_PROPERTY(bool courtButtons READ courtButtons NOTIFY changed FINAL)
     Q_PROPERTY(bool speech READ speech NOTIFY changed FINAL)
     Q_PROPERTY(bool solidPanels READ solidPanels NOTIFY changed FINAL)
+    Q_PROPERTY(double textScale READ textScale NOTIFY changed FINAL)
 
 public:
     // The defaults must outlive it.
@@ -39,6 +40,7 @@ public:
     [[nodiscard]] bool courtButtons() const { return isOn(Option::courtButtons); }
     [[nodiscard]] bool speech() const { return isOn(Option::speech); }
     [[nodiscard]] bool solidPanels() const { return isOn(Option::solidPanels); }
+    [[nodiscard]] double textScale() const; // 1…2 of the usual size
 
     void set(Option option, int value); // takes effect at once; a value that is no choice is ignored
     Q_INVOKABLE void toggleMute();

@@ -46,6 +46,8 @@ inline constexpr auto ar = std::to_array<Text>({
     {"options.tones.help", "ترتفع النغمة مع القوة، وتنتقل من اليسار إلى اليمين مع الزاوية."},
     {"options.hitPlaces", "اصطدامات بصوت مجسّم"},
     {"options.hitPlaces.help", "يُسمع الاصطدام من جهة الملعب التي تلتقي فيها الكرات."},
+    {"options.textSize", "حجم النص"},
+    {"options.textSize.help", "حجم جميع النصوص في اللعبة."},
 
     {"options.sight", "الرؤية"},
     {"options.ballMarks", "علامات على الكرات"},

@@ -52,6 +52,8 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.hitPlaces", "Treffer in Stereo"},
     {"options.hitPlaces.help",
      "Ein Treffer ist auf der Seite des Spielfelds zu hören, auf der er geschieht."},
+    {"options.textSize", "Schriftgröße"},
+    {"options.textSize.help", "Wie groß alle Texte sind."},
 
     {"options.sight", "Sehen"},
     {"options.ballMarks", "Zeichen auf den Bällen"},

@@ -50,6 +50,8 @@ inline constexpr auto el = std::to_array<Text>({
      "Ο τόνος ανεβαίνει με τη δύναμη και πηγαίνει από αριστερά προς τα δεξιά με τη γωνία."},
     {"options.hitPlaces", "Στερεοφωνικά χτυπήματα"},
     {"options.hitPlaces.help", "Κάθε χτύπημα ακούγεται από την πλευρά του γηπέδου όπου γίνεται."},
+    {"options.textSize", "Μέγεθος κειμένου"},
+    {"options.textSize.help", "Πόσο μεγάλα είναι όλα τα κείμενα."},
 
     {"options.sight", "Όραση"},
     {"options.ballMarks", "Σημάδια στις μπάλες"},

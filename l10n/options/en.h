@@ -47,6 +47,8 @@ inline constexpr auto en = std::to_array<Text>({
     {"options.tones.help", "A tone rises with the power and moves from left to right with the angle."},
     {"options.hitPlaces", "Hits in stereo"},
     {"options.hitPlaces.help", "A hit is heard on the side of the court where the balls meet."},
+    {"options.textSize", "Text size"},
+    {"options.textSize.help", "How large all texts are."},
 
     {"options.sight", "Seeing"},
     {"options.ballMarks", "Marks on the balls"},

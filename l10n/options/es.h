@@ -49,6 +49,8 @@ inline constexpr auto es = std::to_array<Text>({
     {"options.tones.help", "Un tono sube con la fuerza y va de izquierda a derecha con el ángulo."},
     {"options.hitPlaces", "Choques en estéreo"},
     {"options.hitPlaces.help", "Cada choque se oye en el lado de la pista donde ocurre."},
+    {"options.textSize", "Tamaño del texto"},
+    {"options.textSize.help", "El tamaño de todos los textos."},
 
     {"options.sight", "Visión"},
     {"options.ballMarks", "Marcas en las bolas"},

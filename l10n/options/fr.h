@@ -51,6 +51,8 @@ inline constexpr auto fr = std::to_array<Text>({
     {"options.tones.help", "Un son monte avec la force et passe de gauche à droite avec l’angle."},
     {"options.hitPlaces", "Chocs en stéréo"},
     {"options.hitPlaces.help", "Chaque choc s’entend du côté du terrain où il a lieu."},
+    {"options.textSize", "Taille du texte"},
+    {"options.textSize.help", "La taille de tous les textes."},
 
     {"options.sight", "Vision"},
     {"options.ballMarks", "Marques sur les balles"},

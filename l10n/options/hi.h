@@ -45,6 +45,8 @@ inline constexpr auto hi = std::to_array<Text>({
     {"options.tones.help", "ताकत बढ़ने पर सुर ऊँचा होता है और कोण के साथ बाएँ से दाएँ जाता है।"},
     {"options.hitPlaces", "टक्कर स्टीरियो में"},
     {"options.hitPlaces.help", "टक्कर की आवाज़ कोर्ट की उसी तरफ़ से आती है जहाँ गेंदें टकराती हैं।"},
+    {"options.textSize", "अक्षरों का आकार"},
+    {"options.textSize.help", "सभी अक्षर कितने बड़े हों।"},
 
     {"options.sight", "देखने में मदद"},
     {"options.ballMarks", "गेंदों पर चिह्न"},

@@ -50,6 +50,8 @@ inline constexpr auto id = std::to_array<Text>({
      "Nada makin tinggi mengikuti kekuatan dan bergeser dari kiri ke kanan mengikuti sudut."},
     {"options.hitPlaces", "Benturan dalam stereo"},
     {"options.hitPlaces.help", "Bunyi benturan terdengar dari sisi lapangan tempat bola berbenturan."},
+    {"options.textSize", "Ukuran teks"},
+    {"options.textSize.help", "Seberapa besar semua teks."},
 
     {"options.sight", "Tampilan"},
     {"options.ballMarks", "Tanda pada bola"},

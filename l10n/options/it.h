@@ -50,6 +50,8 @@ inline constexpr auto it = std::to_array<Text>({
     {"options.tones.help", "Un tono sale con la forza e si sposta da sinistra a destra con l’angolo."},
     {"options.hitPlaces", "Urti in stereo"},
     {"options.hitPlaces.help", "Ogni urto si sente dal lato del campo in cui avviene."},
+    {"options.textSize", "Dimensione del testo"},
+    {"options.textSize.help", "La dimensione di tutti i testi."},
 
     {"options.sight", "Vista"},
     {"options.ballMarks", "Segni sulle bocce"},

@@ -48,6 +48,8 @@ inline constexpr auto ja = std::to_array<Text>({
     {"options.tones.help", "パワーが上がると音が高くなり、角度に合わせて音が左右に動きます。"},
     {"options.hitPlaces", "衝突音をステレオに"},
     {"options.hitPlaces.help", "ボールがぶつかった側から音が聞こえます。"},
+    {"options.textSize", "文字サイズ"},
+    {"options.textSize.help", "すべての文字の大きさです。"},
 
     {"options.sight", "見やすさ"},
     {"options.ballMarks", "ボールの目印"},

@@ -46,6 +46,8 @@ inline constexpr auto ko = std::to_array<Text>({
     {"options.tones.help", "세기가 커지면 음이 높아지고, 각도에 따라 소리가 좌우로 움직입니다."},
     {"options.hitPlaces", "충돌음 스테레오"},
     {"options.hitPlaces.help", "공이 부딪친 쪽에서 소리가 들립니다."},
+    {"options.textSize", "글자 크기"},
+    {"options.textSize.help", "모든 글자의 크기입니다."},
 
     {"options.sight", "시각"},
     {"options.ballMarks", "공 무늬"},

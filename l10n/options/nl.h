@@ -50,6 +50,8 @@ inline constexpr auto nl = std::to_array<Text>({
     {"options.tones.help", "De toon stijgt met de kracht en schuift met de hoek van links naar rechts."},
     {"options.hitPlaces", "Botsingen in stereo"},
     {"options.hitPlaces.help", "Je hoort een botsing aan de kant van het veld waar de ballen elkaar raken."},
+    {"options.textSize", "Tekstgrootte"},
+    {"options.textSize.help", "Hoe groot alle teksten zijn."},
 
     {"options.sight", "Beeld"},
     {"options.ballMarks", "Tekens op de ballen"},

@@ -51,6 +51,8 @@ inline constexpr auto pl = std::to_array<Text>({
     {"options.tones.help", "Ton rośnie wraz z siłą i przesuwa się od lewej do prawej wraz z kątem."},
     {"options.hitPlaces", "Uderzenia w stereo"},
     {"options.hitPlaces.help", "Uderzenie słychać z tej strony boiska, po której zderzyły się bile."},
+    {"options.textSize", "Rozmiar tekstu"},
+    {"options.textSize.help", "Wielkość wszystkich napisów w grze."},
 
     {"options.sight", "Wzrok"},
     {"options.ballMarks", "Znaki na bilach"},

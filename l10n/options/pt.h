@@ -49,6 +49,8 @@ inline constexpr auto pt = std::to_array<Text>({
     {"options.tones.help", "Um tom sobe com a força e vai da esquerda para a direita com o ângulo."},
     {"options.hitPlaces", "Choques em estéreo"},
     {"options.hitPlaces.help", "Cada choque se ouve do lado do campo de jogo em que acontece."},
+    {"options.textSize", "Tamanho do texto"},
+    {"options.textSize.help", "O tamanho de todos os textos."},
 
     {"options.sight", "Visão"},
     {"options.ballMarks", "Marcas nas bolas"},

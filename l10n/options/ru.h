@@ -47,6 +47,8 @@ inline constexpr auto ru = std::to_array<Text>({
     {"options.tones.help", "Тон повышается вместе с силой и смещается слева направо вместе с углом."},
     {"options.hitPlaces", "Удары в стерео"},
     {"options.hitPlaces.help", "Удар слышен с той стороны площадки, где столкнулись мячи."},
+    {"options.textSize", "Размер текста"},
+    {"options.textSize.help", "Величина всех надписей в игре."},
 
     {"options.sight", "Зрение"},
     {"options.ballMarks", "Метки на мячах"},

@@ -46,6 +46,8 @@ inline constexpr auto th = std::to_array<Text>({
     {"options.tones.help", "เสียงสูงขึ้นตามแรงโยน และเลื่อนซ้ายขวาตามมุม"},
     {"options.hitPlaces", "เสียงกระทบแบบสเตอริโอ"},
     {"options.hitPlaces.help", "ได้ยินเสียงกระทบจากฝั่งของสนามที่ลูกชนกัน"},
+    {"options.textSize", "ขนาดตัวอักษร"},
+    {"options.textSize.help", "ขนาดของข้อความทั้งหมด"},
 
     {"options.sight", "การมองเห็น"},
     {"options.ballMarks", "เครื่องหมายบนลูกบอล"},

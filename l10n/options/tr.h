@@ -47,6 +47,8 @@ inline constexpr auto tr = std::to_array<Text>({
     {"options.tones.help", "Güç arttıkça ton tizleşir, açı değiştikçe soldan sağa kayar."},
     {"options.hitPlaces", "Stereo çarpma sesi"},
     {"options.hitPlaces.help", "Çarpma sesi, sahada topların çarpıştığı taraftan duyulur."},
+    {"options.textSize", "Yazı boyutu"},
+    {"options.textSize.help", "Bütün yazıların büyüklüğü."},
 
     {"options.sight", "Görünüm"},
     {"options.ballMarks", "Toplarda işaret"},

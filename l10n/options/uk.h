@@ -47,6 +47,8 @@ inline constexpr auto uk = std::to_array<Text>({
     {"options.tones.help", "Тон вищає разом із силою та зміщується зліва направо разом із кутом."},
     {"options.hitPlaces", "Удари у стерео"},
     {"options.hitPlaces.help", "Удар чути з того боку майданчика, де зіткнулися м’ячі."},
+    {"options.textSize", "Розмір тексту"},
+    {"options.textSize.help", "Величина всіх написів у грі."},
 
     {"options.sight", "Зір"},
     {"options.ballMarks", "Позначки на м’ячах"},

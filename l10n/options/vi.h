@@ -48,6 +48,8 @@ inline constexpr auto vi = std::to_array<Text>({
     {"options.tones.help", "Âm báo cao dần theo lực và chuyển từ trái sang phải theo góc."},
     {"options.hitPlaces", "Va chạm theo âm thanh nổi"},
     {"options.hitPlaces.help", "Tiếng va chạm vang lên từ phía sân nơi hai quả bóng chạm nhau."},
+    {"options.textSize", "Cỡ chữ"},
+    {"options.textSize.help", "Mọi chữ trong trò chơi to hay nhỏ."},
 
     {"options.sight", "Hiển thị"},
     {"options.ballMarks", "Ký hiệu trên bóng"},

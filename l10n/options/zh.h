@@ -45,6 +45,8 @@ inline constexpr auto zh = std::to_array<Text>({
     {"options.tones.help", "力度越大音调越高，声音随角度左右移动。"},
     {"options.hitPlaces", "碰撞立体声"},
     {"options.hitPlaces.help", "碰撞声从球相碰的那一侧传来。"},
+    {"options.textSize", "文字大小"},
+    {"options.textSize.help", "所有文字的大小。"},
 
     {"options.sight", "视觉"},
     {"options.ballMarks", "球上标记"},

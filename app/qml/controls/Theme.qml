@@ -23,13 +23,15 @@ QtObject {
     readonly property int buttonRadius: 6
     readonly property int ring: 4 // how far the focus ring lies outside of its control
 
-    readonly property int caption: 13
-    readonly property int body: 15
-    readonly property int headline: 18
-    readonly property int sideTitle: 20
-    readonly property int title: 24
-    readonly property int hugeTitle: 42
+    readonly property int caption: grown(13)
+    readonly property int body: grown(15)
+    readonly property int headline: grown(18)
+    readonly property int sideTitle: grown(20)
+    readonly property int title: grown(24)
+    readonly property int hugeTitle: grown(42)
 
+    property real textScale: 1 // by option: of all texts and what has to grow with them; the window sets it
+    readonly property bool largeText: textScale > 1
     property bool solidPanels: false // by option: nothing shines through; the window sets it
     property real point: 1 // in pixels of the window, which sets it
     readonly property real thinLine: Math.max(1, 1 / point) // a pixel at least
@@ -37,6 +39,9 @@ QtObject {
     // Of the language of the player; the window follows it.
     property string fontFamily: Qt.application.font.family // qmllint disable
 
+    function grown(size: real): int {
+        return Math.round(size * textScale);
+    }
     function white(opacity: real): color {
         return Qt.rgba(1, 1, 1, opacity);
     }

@@ -11,7 +11,7 @@ PressButton {
     implicitHeight: 56
     focusPolicy: Qt.NoFocus // the mouse's alone: the keyboard has its own keys
     font.family: Theme.fontFamily
-    font.pixelSize: Theme.title
+    font.pixelSize: 24 // whatever the size of texts: with it a button would cover the court
     font.bold: true
     autoRepeatDelay: 500 // ms
     autoRepeatInterval: 120

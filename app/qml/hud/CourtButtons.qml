@@ -26,7 +26,7 @@ Column {
         CourtButton { text: "↑"; name: buttons.texts.aimUp; autoRepeat: true; onClicked: buttons.keyboard.pressUp() }
         Leap { text: "+10"; needed: buttons.options.powerByHand; onClicked: buttons.keyboard.pressPageUp() }
         CourtButton { text: "←"; name: buttons.texts.aimLeft; autoRepeat: true; onClicked: buttons.keyboard.pressLeft() }
-        CourtButton { text: buttons.texts.aimOk; name: text; font.pixelSize: Theme.headline; onClicked: buttons.keyboard.pressAction() }
+        CourtButton { text: buttons.texts.aimOk; name: text; font.pixelSize: 18; onClicked: buttons.keyboard.pressAction() }
         CourtButton { text: "→"; name: buttons.texts.aimRight; autoRepeat: true; onClicked: buttons.keyboard.pressRight() }
         Item { width: buttons.side; height: buttons.side }
         CourtButton { text: "↓"; name: buttons.texts.aimDown; autoRepeat: true; onClicked: buttons.keyboard.pressDown() }
@@ -56,14 +56,14 @@ Column {
             name: text
             visible: leap.needed
             width: leap.width
-            font.pixelSize: Theme.headline
+            font.pixelSize: 18
             autoRepeat: true
             onClicked: leap.clicked()
         }
     }
     component Words: CourtButton {
         anchors.horizontalCenter: parent?.horizontalCenter
-        implicitHeight: 48
+        implicitHeight: Math.max(48, contentItem.implicitHeight)
         name: text
         font.pixelSize: Theme.body
     }

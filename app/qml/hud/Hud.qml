@@ -11,7 +11,11 @@ Item {
     readonly property PlayerSettings settings: view.settings
 
     // Narrower than the gap between the waiting balls at the lower edge, whose place follows the window's height.
-    readonly property real lowerWidth: Math.min(width - 2 * Theme.margin, 0.9 * height)
+    // Large texts take all the room that there is, but for the buttons on the court.
+    readonly property real besideButtons: view.options.courtButtons ? 2 * (Theme.grown(150) + Theme.margin) : 0
+    readonly property real lowerWidth: Theme.largeText ? width - 2 * Theme.margin - besideButtons
+                                                       : Math.min(width - 2 * Theme.margin, 0.9 * height)
+    readonly property real middleWidth: width - 2 * (Math.max(red.width, blue.width) + 2 * Theme.hudMargin)
 
     SidePanel {
         id: red
@@ -29,10 +33,11 @@ Item {
         onAiToggled: on => display.settings.redAIOn = on
     }
     MatchPanel {
-        anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.hudMargin }
+        anchors { horizontalCenter: parent.horizontalCenter; top: parent.top }
+        anchors.topMargin: Theme.largeText ? Math.max(red.height, blue.height) + 2 * Theme.hudMargin : Theme.hudMargin
         hud: display.hud
         difficultyIndex: display.settings.difficultyIndex
-        maximumWidth: display.width - 2 * (Math.max(red.width, blue.width) + 2 * Theme.hudMargin)
+        maximumWidth: Theme.largeText ? display.width - 2 * Theme.hudMargin : display.middleWidth
         onDifficultyChosen: index => display.settings.difficultyIndex = index
     }
     SidePanel {
@@ -54,7 +59,9 @@ Item {
         model: display.view.options.courtButtons ? 1 : 0
 
         CourtButtons {
-            anchors { right: parent?.right; rightMargin: Theme.margin; verticalCenter: parent?.verticalCenter }
+            anchors { right: parent?.right; margins: Theme.margin }
+            anchors.verticalCenter: Theme.largeText ? undefined : parent?.verticalCenter
+            anchors.bottom: Theme.largeText ? parent?.bottom : undefined
             keyboard: display.view.keyboard
             texts: display.view.menu.texts
             options: display.view.options
@@ -77,6 +84,7 @@ Item {
             visible: display.hud.powerShown
             caption: display.hud.powerCaption
             power: display.hud.power
+            maximumWidth: display.lowerWidth
         }
         MessageLine {
             anchors.horizontalCenter: parent.horizontalCenter

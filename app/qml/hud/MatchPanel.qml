@@ -41,6 +41,7 @@ Panel {
                 color: Theme.orange
                 font.pixelSize: Theme.caption
                 font.bold: true
+                visible: text.length > 0 && !Theme.largeText
             }
             Item {
                 Layout.fillWidth: true
@@ -55,6 +56,15 @@ Panel {
                 Layout.preferredWidth: Math.max(implicitWidth, levels.implicitWidth)
                 Layout.maximumWidth: Layout.preferredWidth
             }
+        }
+        MatchLine {
+            text: panel.hud.tournament
+            color: Theme.orange
+            font.pixelSize: Theme.caption
+            font.bold: true
+            visible: text.length > 0 && Theme.largeText
+            wrapMode: Text.Wrap
+            Layout.fillWidth: true
         }
         RowLayout {
             spacing: 2 * Theme.gap
@@ -90,6 +100,8 @@ Panel {
             text: panel.hud.rampHint
             color: Theme.white(0.5)
             font.pixelSize: Theme.caption
+            wrapMode: Text.Wrap
+            Layout.fillWidth: Theme.largeText
         }
     }
 

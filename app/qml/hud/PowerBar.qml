@@ -7,6 +7,7 @@ Panel {
 
     required property string caption
     required property real power // percent
+    required property real maximumWidth
 
     Column {
         spacing: Theme.gap
@@ -19,7 +20,7 @@ Panel {
         Rectangle {
             id: bar
 
-            width: 400
+            width: Math.min(Theme.grown(400), panel.maximumWidth - 2 * Theme.padding)
             height: 22
             radius: height / 2
             color: Qt.rgba(0, 0, 0, 0.6)

@@ -13,7 +13,8 @@ MenuBackdrop {
     }
     ScrollingText {
         text: screen.menu.texts.aboutText
-        maximumHeight: screen.availableHeight - 220
+        maximumWidth: screen.availableWidth
+        maximumHeight: screen.availableHeight - Theme.grown(220)
         Layout.alignment: Qt.AlignHCenter
     }
     Label {

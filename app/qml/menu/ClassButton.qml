@@ -3,7 +3,7 @@ import QtQuick
 import Vorbel
 
 ChoiceButton {
-    implicitWidth: 60
+    implicitWidth: Theme.grown(60)
     padding: 8
     font.pixelSize: Theme.headline
     font.bold: true

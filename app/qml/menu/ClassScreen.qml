@@ -38,8 +38,8 @@ MenuBackdrop {
     }
     // As high as the longest description, so that the buttons stay in their place.
     Item {
-        Layout.preferredWidth: 520
-        Layout.preferredHeight: 72
+        Layout.preferredWidth: Theme.grown(520)
+        Layout.preferredHeight: Theme.grown(72)
         Layout.alignment: Qt.AlignHCenter
 
         Label {

@@ -24,7 +24,7 @@ MenuBackdrop {
         contentHeight: grid.height + 2 * grid.y
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-        Layout.preferredWidth: 560
+        Layout.preferredWidth: Theme.grown(560)
         Layout.preferredHeight: 320
         Layout.alignment: Qt.AlignHCenter
         Accessible.role: Accessible.Grouping

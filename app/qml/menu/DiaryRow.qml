@@ -9,12 +9,13 @@ Item {
     required property string date
     required property string result
 
-    implicitHeight: 32
+    implicitHeight: Math.max(Theme.grown(32), cells.implicitHeight)
 
     Accessible.role: Accessible.ListItem
     Accessible.name: date + ", " + result
 
     RowLayout {
+        id: cells
         anchors.fill: parent
         anchors.leftMargin: Theme.padding
         anchors.rightMargin: Theme.padding

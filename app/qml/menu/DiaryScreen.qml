@@ -37,8 +37,8 @@ MenuBackdrop {
         cacheBuffer: 0 // a row made ahead of its time lies on the first one until it gets its place
         boundsBehavior: Flickable.StopAtBounds
         activeFocusOnTab: contentHeight > height || activeFocus
-        Layout.preferredWidth: 480
-        Layout.preferredHeight: Math.min(contentHeight, screen.availableHeight - 240)
+        Layout.preferredWidth: Theme.grown(480)
+        Layout.preferredHeight: Math.min(contentHeight, screen.availableHeight - Theme.grown(240))
         Layout.alignment: Qt.AlignHCenter
         Accessible.role: Accessible.List
         Accessible.name: screen.menu.texts.diary

@@ -35,9 +35,13 @@ MenuBackdrop {
         Layout.topMargin: -Theme.padding
     }
     GridLayout {
+        id: languages
+
         readonly property bool switchGroup: true
 
-        columns: 5
+        readonly property int columnWidth: Theme.grown(138)
+
+        columns: Math.min(5, (screen.availableWidth + columnSpacing) / (columnWidth + columnSpacing))
         columnSpacing: Theme.gap
         rowSpacing: Theme.gap
         Layout.alignment: Qt.AlignHCenter
@@ -56,7 +60,7 @@ MenuBackdrop {
                 text: modelData
                 font.family: screen?.menu.choices.languageFonts[index] ?? Theme.fontFamily // a closing screen goes first
                 selected: index === screen?.menu.choices.languageIndex
-                Layout.preferredWidth: 138
+                Layout.preferredWidth: languages.columnWidth
                 Layout.fillHeight: true
                 onClicked: screen.menu.choices.languageIndex = language.index
             }

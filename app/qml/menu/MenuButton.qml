@@ -4,7 +4,7 @@ import QtQuick.Layouts
 import Vorbel
 
 PressButton {
-    implicitWidth: 260
+    implicitWidth: Theme.grown(260)
     padding: 10
     font.family: Theme.fontFamily
     font.pixelSize: Theme.headline

@@ -30,6 +30,6 @@ RowLayout {
         textFormat: Text.PlainText
         horizontalAlignment: Text.AlignHCenter
         Accessible.ignored: true
-        Layout.preferredWidth: 60 + Theme.pointsGap // a column of points
+        Layout.preferredWidth: Theme.grown(60) + Theme.pointsGap // a column of points
     }
 }

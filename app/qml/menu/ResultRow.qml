@@ -18,7 +18,7 @@ Item {
     property bool heavy: false
 
     implicitWidth: cells.implicitWidth
-    implicitHeight: heavy ? 48 : 34
+    implicitHeight: Theme.grown(heavy ? 48 : 34)
 
     Accessible.role: Accessible.StaticText
     Accessible.name: label + " " + redName + " " + red + ", " + blueName + " " + blue
@@ -36,7 +36,7 @@ Item {
             textFormat: Text.PlainText
             horizontalAlignment: Text.AlignLeft
             Layout.fillWidth: true
-            Layout.minimumWidth: 70
+            Layout.minimumWidth: Theme.grown(70)
         }
         Points {
             heavy: row.heavy
@@ -58,7 +58,7 @@ Item {
         font.weight: heavy ? Font.Black : Font.Normal
         textFormat: Text.PlainText
         horizontalAlignment: Text.AlignHCenter
-        Layout.preferredWidth: 60
+        Layout.preferredWidth: Theme.grown(60)
         Layout.leftMargin: Theme.pointsGap / 2
         Layout.rightMargin: Theme.pointsGap / 2
     }

@@ -13,7 +13,8 @@ MenuBackdrop {
     }
     ScrollingText {
         text: screen.menu.texts.rulesText
-        maximumHeight: screen.availableHeight - 140
+        maximumWidth: screen.availableWidth
+        maximumHeight: screen.availableHeight - Theme.grown(140)
         Layout.alignment: Qt.AlignHCenter
     }
     MenuButton {

@@ -7,9 +7,10 @@ Flickable {
     id: view
 
     required property string text
+    required property real maximumWidth
     required property real maximumHeight
 
-    implicitWidth: 760
+    implicitWidth: Math.min(Theme.grown(760), maximumWidth)
     implicitHeight: Math.min(contentHeight, maximumHeight)
     contentWidth: width
     contentHeight: label.implicitHeight

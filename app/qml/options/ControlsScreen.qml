@@ -11,7 +11,7 @@ MenuBackdrop {
     required property ControlsModel controls
     required property MenuTexts texts
 
-    readonly property real listWidth: Math.min(860, availableWidth)
+    readonly property real listWidth: Math.min(Theme.grown(860), availableWidth)
     readonly property real columnWidth: 0.35 * listWidth
 
     spacing: Theme.gap
@@ -64,7 +64,7 @@ MenuBackdrop {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         Layout.preferredWidth: screen.listWidth
-        Layout.preferredHeight: Math.min(contentHeight, screen.availableHeight - 290)
+        Layout.preferredHeight: Math.min(contentHeight, Math.max(240, screen.availableHeight - Theme.grown(290)))
         Layout.alignment: Qt.AlignHCenter
         Accessible.role: Accessible.Grouping
         Accessible.name: screen.controls.title
@@ -101,11 +101,11 @@ MenuBackdrop {
         horizontalAlignment: Text.AlignHCenter
         Accessible.role: Accessible.AlertMessage
         Layout.preferredWidth: screen.listWidth
-        Layout.minimumHeight: 40
+        Layout.minimumHeight: Theme.grown(40)
         Layout.alignment: Qt.AlignHCenter
     }
     MenuButton {
-        implicitWidth: 340
+        implicitWidth: Theme.grown(340)
         text: screen.controls.resetTitle
         onClicked: screen.controls.reset()
     }

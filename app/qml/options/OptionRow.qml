@@ -32,8 +32,10 @@ ColumnLayout {
         Accessible.role: Accessible.Heading
         Layout.topMargin: row.index > 0 ? Theme.gap : 0
     }
-    RowLayout {
-        spacing: Theme.padding
+    GridLayout {
+        columns: Theme.largeText && !row.isSwitch ? 1 : 2
+        columnSpacing: Theme.padding
+        rowSpacing: Theme.gap
         Layout.fillWidth: true
 
         ColumnLayout {

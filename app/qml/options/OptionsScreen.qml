@@ -24,8 +24,8 @@ MenuBackdrop {
         contentHeight: rows.height + 2 * rows.y
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-        Layout.preferredWidth: Math.min(860, screen.availableWidth)
-        Layout.preferredHeight: Math.min(contentHeight, screen.availableHeight - 200)
+        Layout.preferredWidth: Math.min(Theme.grown(860), screen.availableWidth)
+        Layout.preferredHeight: Math.min(contentHeight, screen.availableHeight - Theme.grown(200))
         Layout.alignment: Qt.AlignHCenter
         Accessible.role: Accessible.Grouping
         Accessible.name: screen.options.title

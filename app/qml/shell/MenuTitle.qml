@@ -12,7 +12,7 @@ T.MenuBarItem {
         menu.visible ? menu.close() : menu.open();
     }
 
-    implicitHeight: 30
+    implicitHeight: Theme.grown(30)
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
     horizontalPadding: 14
     focusPolicy: Qt.NoFocus

@@ -34,6 +34,11 @@ Window {
         property: "solidPanels"
         value: window.view.options.solidPanels
     }
+    Binding {
+        target: Theme
+        property: "textScale"
+        value: window.view.options.textScale
+    }
     SceneView {
         id: scene
         anchors.fill: parent

@@ -75,6 +75,29 @@ TEST_P(HudTest, TheLongestNamesHaveTheirPlaceDuringATournament) {
     }
 }
 
+TEST_P(HudTest, TextsOfTwiceTheSizeHaveTheirPlaceToo) {
+    game.view().options()->set(Option::textSize, 200);
+    game.view().settings()->setSelectedCountry(longestNamed(GetParam()));
+    game.view().settings()->setSelectedClass(BocciaClass::bc3);
+    state.tournamentActive = true;
+    match.blueCountry = longestNamed(GetParam());
+    state.tournamentRound = 2;
+    state.aimState = AimState::aimingPower;
+    match.message = messagesIn(GetParam()).front();
+    check(match.message, "large-hud");
+}
+
+TEST_P(HudTest, TheButtonsOnTheCourtHaveTheirPlaceAtEverySize) {
+    Options& options = *game.view().options();
+    options.set(Option::courtButtons, 1);
+    options.set(Option::speech, 1);
+    options.set(Option::powerPace, 0);
+    for (const int size : {100, 150, 200}) {
+        options.set(Option::textSize, size);
+        check("buttons", ("hud-buttons-" + std::to_string(size)).c_str());
+    }
+}
+
 TEST_P(HudTest, TheResultOfBallsAtEqualDistanceIsSeen) {
     match.message = messages::nextEndPrompt(GetParam(), {1, 1, 1});
     check(match.message, "hud-equidistant");

@@ -18,18 +18,31 @@ bool contains(const QRectF& outer, const QRectF& inner) {
     return outer.adjusted(-rounding, -rounding, rounding, rounding).contains(inner);
 }
 
+// The part of it that no scrolling area hides.
+QRectF withinScrollingAreas(const QQuickItem& text) {
+    QRectF seen = inScene(text);
+    for (const QQuickItem* parent = text.parentItem(); parent != nullptr; parent = parent->parentItem()) {
+        if (isOfType(*parent, "QQuickFlickable")) {
+            seen = seen.intersected(inScene(*parent));
+        }
+    }
+    return seen;
+}
+
 // A text with the place that it takes in the window.
 struct ShownText {
     explicit ShownText(const QQuickItem& text)
         : item(text),
           words(text.property("text").toString()),
           content(text.property("contentWidth").toReal(), text.property("contentHeight").toReal()),
-          area(inScene(text)) {}
+          area(inScene(text)),
+          seen(withinScrollingAreas(text)) {}
 
     const QQuickItem& item;
     QString words;
     QSizeF content;
     QRectF area;
+    QRectF seen; // of the area
 };
 
 // Empty: nothing is wrong with the text in itself.
@@ -105,7 +118,7 @@ QStringList unreadableTexts(QQuickItem& root) {
             }
         }
         for (std::size_t j = i + 1; j < texts.size(); ++j) {
-            const QRectF shared = texts[i].area.intersected(texts[j].area);
+            const QRectF shared = texts[i].seen.intersected(texts[j].seen);
             if (shared.width() > rounding && shared.height() > rounding) {
                 complaints.append(QStringLiteral("“%1” overlaps “%2”")
                                       .arg(texts[i].words.left(40), texts[j].words.left(40)));

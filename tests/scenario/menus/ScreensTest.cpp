@@ -98,6 +98,14 @@ TEST_P(ScreensTest, NeitherDoTheOtherContentsOfTheSameScreens) {
     }
 }
 
+TEST_P(ScreensTest, NothingOfThatHappensToTextsOfTwiceTheSize) {
+    game.view().options()->set(Option::textSize, 200);
+    for (const auto& [screen, name] : screens) {
+        game.open(screen);
+        check((std::string("large-") + name).c_str());
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(EveryLanguage, ScreensTest, testing::ValuesIn(allLanguages),
                          [](const auto& test) { return std::string(rawValue(test.param)); });
 

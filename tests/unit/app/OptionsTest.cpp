@@ -47,6 +47,12 @@ TEST_F(OptionsTest, AValueThatIsNoChoiceIsNeitherTakenNorRead) {
     EXPECT_EQ(Options(defaults).value(Option::mute), 0);
 }
 
+TEST_F(OptionsTest, TheSizeOfTextsIsAFactor) {
+    EXPECT_EQ(options.textScale(), 1);
+    options.set(Option::textSize, 175);
+    EXPECT_EQ(options.textScale(), 1.75);
+}
+
 TEST_F(OptionsTest, AChangeIsToldOnce) {
     int changes = 0;
     QObject::connect(&options, &Options::changed, &options, [&] { ++changes; });
