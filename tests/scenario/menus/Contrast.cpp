@@ -27,12 +27,13 @@ double luminance(const QColor& color) {
 // Paints as the toolkit does, from back to front, until it comes to the text: what is then seen at its place.
 class Painter {
 public:
-    Painter(const QQuickItem& text, const QColor& behind)
-        : text_(text), place_(inScene(text)), seen_(behind) {}
+    Painter(const QQuickItem& text, const QColor& behind, Sight sight)
+        : text_(text), sight_(sight), place_(inScene(text)), seen_(behind) {}
 
     [[nodiscard]] double contrastWithText(QQuickItem& root) {
         paint(root, 1);
-        return contrast(over(text_.property("color").value<QColor>(), opacity_, seen_), seen_);
+        const QColor ink = over(text_.property("color").value<QColor>(), opacity_, seen_);
+        return contrast(seenBy(sight_, ink), seenBy(sight_, seen_));
     }
 
 private:
@@ -58,6 +59,7 @@ private:
     }
 
     const QQuickItem& text_;
+    Sight sight_;
     QRectF place_;
     QColor seen_;
     double opacity_ = 1; // of the text
@@ -71,8 +73,8 @@ double contrast(const QColor& a, const QColor& b) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-double contrastOver(QQuickItem& text, const QColor& behind) {
-    return Painter(text, behind).contrastWithText(*text.window()->contentItem());
+double contrastOver(QQuickItem& text, const QColor& behind, Sight sight) {
+    return Painter(text, behind, sight).contrastWithText(*text.window()->contentItem());
 }
 
 } // namespace vorbel

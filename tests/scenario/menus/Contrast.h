@@ -1,6 +1,8 @@
 // How well text stands out from what lies behind it.
 #pragma once
 
+#include "tests/scenario/menus/ColorSight.h"
+
 #include <QColor>
 #include <QQuickItem>
 
@@ -10,7 +12,7 @@ namespace vorbel {
 [[nodiscard]] double contrast(const QColor& a, const QColor& b);
 
 // The text's contrast with the rectangles that its window paints under it, when `behind` (opaque) lies behind
-// all of them.
-[[nodiscard]] double contrastOver(QQuickItem& text, const QColor& behind);
+// all of them; for that kind of sight.
+[[nodiscard]] double contrastOver(QQuickItem& text, const QColor& behind, Sight sight = Sight::normal);
 
 } // namespace vorbel
