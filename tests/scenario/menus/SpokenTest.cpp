@@ -4,6 +4,7 @@
 #include "tests/scenario/menus/MenuWindow.h"
 
 #include <QAccessible>
+#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -61,7 +62,9 @@ TEST_F(SpokenTest, ThePowerBarTellsThePower) {
     game.open(MenuScreen::hidden);
     MatchSetup(game.view().gameLogic()).state().aimState = AimState::aimingPower;
     MatchSetup(game.view().gameLogic()).state().aimPower = 41.6;
-    const auto bars = spoken(QAccessible::ProgressBar);
+    std::vector<QAccessibleInterface*> bars;
+    const auto isShown = [&] { return !(bars = spoken(QAccessible::ProgressBar)).empty(); };
+    ASSERT_TRUE(QTest::qWaitFor(isShown)) << "what changes while a frame is drawn is told after it";
     ASSERT_EQ(bars.size(), 1u);
     EXPECT_EQ(bars[0]->text(QAccessible::Name), QStringLiteral("Throw power: 42%"));
 }
