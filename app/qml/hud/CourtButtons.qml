@@ -24,13 +24,13 @@ Column {
 
         Item { width: buttons.side; height: buttons.side }
         CourtButton { text: "↑"; name: buttons.texts.aimUp; autoRepeat: true; onClicked: buttons.keyboard.pressUp() }
-        Leap { text: "+10"; needed: buttons.options.powerByHand; onClicked: buttons.keyboard.pressPageUp() }
+        Leap { change: "+10"; needed: buttons.options.powerByHand; onClicked: buttons.keyboard.pressPageUp() }
         CourtButton { text: "←"; name: buttons.texts.aimLeft; autoRepeat: true; onClicked: buttons.keyboard.pressLeft() }
         CourtButton { text: buttons.texts.aimOk; name: text; font.pixelSize: 18; onClicked: buttons.keyboard.pressAction() }
         CourtButton { text: "→"; name: buttons.texts.aimRight; autoRepeat: true; onClicked: buttons.keyboard.pressRight() }
         Item { width: buttons.side; height: buttons.side }
         CourtButton { text: "↓"; name: buttons.texts.aimDown; autoRepeat: true; onClicked: buttons.keyboard.pressDown() }
-        Leap { text: "−10"; needed: buttons.options.powerByHand; onClicked: buttons.keyboard.pressPageDown() }
+        Leap { change: "−10"; needed: buttons.options.powerByHand; onClicked: buttons.keyboard.pressPageDown() }
     }
     Words { text: buttons.texts.takeBack; onClicked: buttons.keyboard.pressTakeBack() }
     Words {
@@ -44,7 +44,7 @@ Column {
         id: leap
 
         required property bool needed
-        property alias text: button.text
+        required property string change // in percent
 
         signal clicked
 
@@ -53,7 +53,8 @@ Column {
 
         CourtButton {
             id: button
-            name: text
+            text: "\u200E" + leap.change // its sign stands at the left in every script
+            name: leap.change
             visible: leap.needed
             width: leap.width
             font.pixelSize: 18

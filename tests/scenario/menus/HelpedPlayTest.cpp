@@ -141,14 +141,17 @@ TEST_F(HelpedPlayTest, WhoSetsThePowerByHandOrListensHasButtonsForThatToo) {
     Options& options = *game.view().options();
     options.set(Option::courtButtons, 1);
     game.open(MenuScreen::hidden);
-    for (const char* text : {"+10", "−10", "Say positions"}) {
+    // With the mark that keeps the sign at the left, in Arabic too.
+    const char* const tenMore = "\u200E+10";
+    const char* const tenLess = "\u200E−10";
+    for (const char* text : {tenMore, tenLess, "Say positions"}) {
         EXPECT_EQ(game.button(QString::fromUtf8(text)), nullptr) << text;
     }
     options.set(Option::powerPace, 0);
     options.set(Option::speech, 1);
     game.layOut();
     const auto click = [this](const char* text) { game.click(*game.button(QString::fromUtf8(text))); };
-    for (const char* text : {"OK", "OK", "+10", "+10", "+10", "−10", "↑"}) {
+    for (const char* text : {"OK", "OK", tenMore, tenMore, tenMore, tenLess, "↑"}) {
         click(text);
     }
     EXPECT_EQ(match.aimPower, aim::startPower + 21);
