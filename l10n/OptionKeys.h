@@ -46,10 +46,10 @@ inline constexpr auto optionKeys = std::to_array<std::string_view>({
     "options.tones.help",
     "options.hitPlaces",
     "options.hitPlaces.help",
-    "options.textSize",
-    "options.textSize.help",
 
     "options.sight",
+    "options.textSize",
+    "options.textSize.help",
     "options.ballMarks",
     "options.ballMarks.help",
     "options.ballOutlines",

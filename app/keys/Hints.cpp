@@ -31,35 +31,50 @@ GameAction actionMeant(std::string_view given) {
     return GameAction::accept;
 }
 
+// The text, with another label for each that stands in brackets.
+template <typename Label>
+std::string relabelled(const std::string& text, const Label& label) {
+    std::string result;
+    std::size_t done = 0;
+    for (std::size_t open = text.find('['); open != std::string::npos; open = text.find('[', done)) {
+        const std::size_t close = text.find(']', open);
+        if (close == std::string::npos) {
+            break;
+        }
+        const std::string_view given = std::string_view(text).substr(open + 1, close - open - 1);
+        result += text.substr(done, open + 1 - done) + label(given) + ']';
+        done = close + 1;
+    }
+    return result + text.substr(done);
+}
+
 } // namespace
 
 Hints::Hints(const GameControls& controls) : controls_(controls) {
     connect(&controls_, &GameControls::changed, this, &Hints::changed);
 }
 
-std::string Hints::label(std::string_view given, AppLanguage language) const {
-    const GameAction action = actionMeant(given);
-    if (controller_) {
-        const int button = controls_.of(GameControls::Device::controller).of(action).front();
-        return buttonName(static_cast<ControllerButton>(button), *controller_, language).toStdString();
+std::string Hints::label(std::string_view given, GameAction action, AppLanguage language) const {
+    const std::vector<int>& buttons = controls_.of(GameControls::Device::controller).of(action);
+    if (controller_ && !buttons.empty()) {
+        return buttonName(static_cast<ControllerButton>(buttons.front()), *controller_, language)
+            .toStdString();
     }
-    const int key = controls_.of(GameControls::Device::keyboard).of(action).front();
-    return key == rowOf(action).key ? std::string(given) : keyName(key, language).toStdString();
+    const std::vector<int>& keys = controls_.of(GameControls::Device::keyboard).of(action);
+    if (keys.empty()) {
+        return "–";
+    }
+    return keys.front() == rowOf(action).key ? std::string(given)
+                                             : keyName(keys.front(), language).toStdString();
 }
 
 std::string Hints::inForce(const std::string& message, AppLanguage language) const {
-    std::string result;
-    std::size_t done = 0;
-    for (std::size_t open = message.find('['); open != std::string::npos; open = message.find('[', done)) {
-        const std::size_t close = message.find(']', open);
-        if (close == std::string::npos) {
-            break;
-        }
-        const std::string_view given = std::string_view(message).substr(open + 1, close - open - 1);
-        result += message.substr(done, open + 1 - done) + label(given, language) + ']';
-        done = close + 1;
-    }
-    return result + message.substr(done);
+    return relabelled(message,
+                      [&](std::string_view given) { return label(given, actionMeant(given), language); });
+}
+
+std::string Hints::inForce(const std::string& text, GameAction action, AppLanguage language) const {
+    return relabelled(text, [&](std::string_view given) { return label(given, action, language); });
 }
 
 void Hints::useController(ControllerFamily family) {

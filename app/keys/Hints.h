@@ -1,6 +1,7 @@
 // The keys and buttons that messages name, as they are for this player.
 #pragma once
 
+#include "app/keys/GameAction.h"
 #include "l10n/AppLanguage.h"
 #include "platform/controllers/Controllers.h"
 
@@ -25,6 +26,8 @@ public:
 
     // The message as the player needs it; unchanged in the given game.
     [[nodiscard]] std::string inForce(const std::string& message, AppLanguage language) const;
+    // The same of a text whose brackets name the key of that action; a dash where nothing does it.
+    [[nodiscard]] std::string inForce(const std::string& text, GameAction action, AppLanguage language) const;
 
     void useController(ControllerFamily family); // was used just now
     void useKeyboard();
@@ -35,7 +38,7 @@ signals:
     void changed();
 
 private:
-    [[nodiscard]] std::string label(std::string_view given, AppLanguage language) const;
+    [[nodiscard]] std::string label(std::string_view given, GameAction action, AppLanguage language) const;
 
     const GameControls& controls_;
     std::optional<ControllerFamily> controller_; // while it is what was used last

@@ -15,7 +15,7 @@ static_assert(static_cast<int>(MenuModel::Screen::MatchResult) == static_cast<in
 static_assert(static_cast<int>(MenuModel::Screen::Hidden) == static_cast<int>(MenuScreen::hidden));
 
 MenuModel::MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openMenu, Career& career,
-                     Options& options, GameControls& controls, PressCatcher& catcher,
+                     Options& options, GameControls& controls, const Hints& hints, PressCatcher& catcher,
                      const Resources& resources)
     : match_(match),
       settings_(settings),
@@ -24,7 +24,7 @@ MenuModel::MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openM
       choices_(settings),
       career_(career, settings),
       result_(match, settings, openMenu),
-      options_(options, settings, openMenu, catcher),
+      options_(options, settings, openMenu, catcher, hints),
       controls_(controls, settings, openMenu, catcher) {
     texts_.setLanguage(settings_.selectedLanguage());
     connect(&openMenu_, &OpenMenu::menuScreenChanged, this, &MenuModel::screenChanged);

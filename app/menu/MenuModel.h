@@ -17,6 +17,7 @@ namespace vorbel {
 
 class Career;
 class GameLogic;
+class Hints;
 class OpenMenu;
 class PlayerSettings;
 class PressCatcher;
@@ -57,9 +58,10 @@ public:
     };
     Q_ENUM(Screen)
 
-    // All eight must outlive it.
+    // All of them must outlive it.
     MenuModel(GameLogic& match, PlayerSettings& settings, OpenMenu& openMenu, Career& career,
-              Options& options, GameControls& controls, PressCatcher& catcher, const Resources& resources);
+              Options& options, GameControls& controls, const Hints& hints, PressCatcher& catcher,
+              const Resources& resources);
 
     [[nodiscard]] Screen screen() const;
     [[nodiscard]] bool isOpen() const;

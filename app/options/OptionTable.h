@@ -1,9 +1,11 @@
 // Every option of the game. Left as they are, they change nothing.
 #pragma once
 
+#include "app/keys/GameAction.h"
 #include "l10n/TextKey.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -51,6 +53,8 @@ struct OptionRow {
     std::span<const OptionChoice>
         choices;  // none: its value is a key that the player presses when asked, or 0
     int standard; // the value in the given game; one of the choices
+    // The action whose key the help names, in brackets.
+    std::optional<GameAction> named{};
 
     // Whether it is simply off (0) or on (1).
     [[nodiscard]] bool isSwitch() const { return !isKey() && choices.front().label.empty(); }

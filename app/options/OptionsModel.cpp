@@ -1,5 +1,6 @@
 #include "app/options/OptionsModel.h"
 
+#include "app/keys/Hints.h"
 #include "app/keys/PressCatcher.h"
 #include "app/keys/PressedKey.h"
 #include "app/options/Options.h"
@@ -48,11 +49,12 @@ int placeOf(const OptionRow& row, int value) {
 } // namespace
 
 OptionsModel::OptionsModel(Options& options, const PlayerSettings& settings, OpenMenu& openMenu,
-                           PressCatcher& catcher)
-    : options_(options), settings_(settings), openMenu_(openMenu), catcher_(catcher) {
+                           PressCatcher& catcher, const Hints& hints)
+    : options_(options), settings_(settings), openMenu_(openMenu), catcher_(catcher), hints_(hints) {
     connect(&options_, &Options::changed, this, &OptionsModel::tellAll);
     connect(&options_, &Options::changed, this, &OptionsModel::inMainMenuChanged);
     connect(&catcher_, &PressCatcher::waitingChanged, this, &OptionsModel::tellAll);
+    connect(&hints_, &Hints::changed, this, &OptionsModel::tellAll);
     connect(&settings_, &PlayerSettings::languageChanged, this, [this] {
         tellAll();
         emit languageChanged();
@@ -79,7 +81,7 @@ QVariant OptionsModel::data(const QModelIndex& index, int role) const {
     case TitleRole:
         return text(row.title, language);
     case HelpRole:
-        return text(row.help, language);
+        return helpOf(row);
     case IsSwitchRole:
         return row.isSwitch();
     case ChoicesRole:
@@ -89,6 +91,13 @@ QVariant OptionsModel::data(const QModelIndex& index, int role) const {
     default:
         return {};
     }
+}
+
+QString OptionsModel::helpOf(const OptionRow& row) const {
+    const AppLanguage language = settings_.selectedLanguage();
+    const QString help = text(row.help, language);
+    return row.named ? QString::fromStdString(hints_.inForce(help.toStdString(), *row.named, language))
+                     : help;
 }
 
 QStringList OptionsModel::choicesOf(const OptionRow& row) const {

@@ -11,6 +11,7 @@
 
 namespace vorbel {
 
+class Hints;
 class OpenMenu;
 class Options;
 class PlayerSettings;
@@ -35,8 +36,9 @@ public:
         ChosenRole,  // the place in it; of a switch 0 or 1
     };
 
-    // All four must outlive it.
-    OptionsModel(Options& options, const PlayerSettings& settings, OpenMenu& openMenu, PressCatcher& catcher);
+    // All must outlive it.
+    OptionsModel(Options& options, const PlayerSettings& settings, OpenMenu& openMenu, PressCatcher& catcher,
+                 const Hints& hints);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -57,6 +59,7 @@ signals:
 private:
     void tellAll();
     void chooseKey(Option option, int place);
+    [[nodiscard]] QString helpOf(const OptionRow& row) const;
     [[nodiscard]] QStringList choicesOf(const OptionRow& row) const;
     [[nodiscard]] QStringList keyChoices(int key) const;
 
@@ -64,6 +67,7 @@ private:
     const PlayerSettings& settings_;
     OpenMenu& openMenu_;
     PressCatcher& catcher_;
+    const Hints& hints_;
     MenuScreen openedFrom_ = MenuScreen::main;
 };
 

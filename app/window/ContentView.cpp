@@ -42,7 +42,8 @@ ContentView::ContentView(const Platform& platform, UserDefaults& defaults, const
       sightOptions_(gameLogic_.scene, options_, changes_),
       aimTone_(gameLogic_, options_, changes_, audio_, platform.mainQueue),
       keyboard_(gameLogic_, openMenu_),
-      menu_(gameLogic_, settings_, openMenu_, career_, options_, controls_, catcher_, platform_.resources) {
+      menu_(gameLogic_, settings_, openMenu_, career_, options_, controls_, hints_, catcher_,
+            platform_.resources) {
     connect(&changes_, &MatchChanges::changed, this, &ContentView::refresh);
     connect(&hints_, &Hints::changed, this, &ContentView::refresh);
     connect(&keyboard_, &Keyboard::menuRequested, this,

@@ -15,7 +15,7 @@ inline constexpr auto ar = std::to_array<Text>({
     {"options.byKeys", "بالأسهم"},
     {"options.fineAim", "التصويب الدقيق والتراجع"},
     {"options.fineAim.help",
-     "مع Shift تصوّب الأسهم بخطوات صغيرة. ومع Backspace تتراجع عن القوة ثم عن التصويب."},
+     "مع Shift تصوّب الأسهم بخطوات صغيرة. ومع [Backspace] تتراجع عن القوة ثم عن التصويب."},
 
     {"options.oneSwitch", "زر واحد"},
     {"options.switchOn", "اللعب بزر واحد"},
@@ -40,16 +40,16 @@ inline constexpr auto ar = std::to_array<Text>({
 
     {"options.voice", "النطق والنغمات"},
     {"options.speech", "نطق ما يجري"},
-    {"options.speech.help", "تُنطق الرسائل والتصويب ومواضع الكرات. المفتاح W يعيد نطقها."},
+    {"options.speech.help", "تُنطق الرسائل والتصويب ومواضع الكرات. المفتاح [W] يعيد نطقها."},
     {"aim.everything", "اذكر المواضع"},
     {"options.tones", "نغمات التصويب"},
     {"options.tones.help", "ترتفع النغمة مع القوة، وتنتقل من اليسار إلى اليمين مع الزاوية."},
     {"options.hitPlaces", "اصطدامات بصوت مجسّم"},
     {"options.hitPlaces.help", "يُسمع الاصطدام من جهة الملعب التي تلتقي فيها الكرات."},
-    {"options.textSize", "حجم النص"},
-    {"options.textSize.help", "حجم جميع النصوص في اللعبة."},
 
     {"options.sight", "الرؤية"},
+    {"options.textSize", "حجم النص"},
+    {"options.textSize.help", "حجم جميع النصوص في اللعبة."},
     {"options.ballMarks", "علامات على الكرات"},
     {"options.ballMarks.help", "على الكرات الحمراء حلقات، وعلى الزرقاء خطوط متقاطعة."},
     {"options.ballOutlines", "إطار حول الكرات"},
@@ -61,7 +61,7 @@ inline constexpr auto ar = std::to_array<Text>({
 
     {"options.sound", "الأصوات"},
     {"options.mute", "بلا صوت"},
-    {"options.mute.help", "يُسكت جميع الأصوات، وكذلك يفعل المفتاح M."},
+    {"options.mute.help", "يُسكت جميع الأصوات، وكذلك يفعل المفتاح [M]."},
     {"options.crowdVolume", "صوت الجمهور"},
     {"options.crowdVolume.help", "مدى ارتفاع صوت المتفرجين."},
     {"options.effectVolume", "صوت اللعبة"},

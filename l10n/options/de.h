@@ -15,7 +15,7 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.asUsual", "Normal"},
     {"options.byKeys", "Mit Tasten"},
     {"options.fineAim", "Fein zielen, zurücknehmen"},
-    {"options.fineAim.help", "Umschalttaste und Pfeiltasten zielen in kleinen Schritten. Die Rücktaste "
+    {"options.fineAim.help", "Umschalttaste und Pfeiltasten zielen in kleinen Schritten. Die [Rücktaste] "
                              "nimmt erst die Wurfstärke zurück, dann die Zielrichtung."},
 
     {"options.oneSwitch", "Ein Taster"},
@@ -43,7 +43,7 @@ inline constexpr auto de = std::to_array<Text>({
 
     {"options.voice", "Ansagen und Töne"},
     {"options.speech", "Ansagen"},
-    {"options.speech.help", "Angesagt werden Meldungen, Zielrichtung und Lage der Bälle. Die Taste W "
+    {"options.speech.help", "Angesagt werden Meldungen, Zielrichtung und Lage der Bälle. Die Taste [W] "
                             "wiederholt die Ansage."},
     {"aim.everything", "Lage ansagen"},
     {"options.tones", "Töne beim Zielen"},
@@ -52,10 +52,10 @@ inline constexpr auto de = std::to_array<Text>({
     {"options.hitPlaces", "Treffer in Stereo"},
     {"options.hitPlaces.help",
      "Ein Treffer ist auf der Seite des Spielfelds zu hören, auf der er geschieht."},
-    {"options.textSize", "Schriftgröße"},
-    {"options.textSize.help", "Wie groß alle Texte sind."},
 
     {"options.sight", "Sehen"},
+    {"options.textSize", "Schriftgröße"},
+    {"options.textSize.help", "Wie groß alle Texte sind."},
     {"options.ballMarks", "Zeichen auf den Bällen"},
     {"options.ballMarks.help", "Rote Bälle tragen Ringe, blaue Bälle Kreuze."},
     {"options.ballOutlines", "Umrandete Bälle"},
@@ -67,7 +67,7 @@ inline constexpr auto de = std::to_array<Text>({
 
     {"options.sound", "Ton"},
     {"options.mute", "Ton aus"},
-    {"options.mute.help", "Schaltet alle Geräusche aus, genau wie die Taste M."},
+    {"options.mute.help", "Schaltet alle Geräusche aus, genau wie die Taste [M]."},
     {"options.crowdVolume", "Lautstärke des Publikums"},
     {"options.crowdVolume.help", "Wie laut die Zuschauer sind."},
     {"options.effectVolume", "Lautstärke des Spiels"},

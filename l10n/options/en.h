@@ -16,7 +16,7 @@ inline constexpr auto en = std::to_array<Text>({
     {"options.byKeys", "Set by keys"},
     {"options.fineAim", "Fine aim and taking back"},
     {"options.fineAim.help",
-     "With Shift the arrow keys aim in small steps. Backspace takes back the power, then the aim."},
+     "With Shift the arrow keys aim in small steps. [Backspace] takes back the power, then the aim."},
 
     {"options.oneSwitch", "One switch"},
     {"options.switchOn", "Play with one switch"},
@@ -41,16 +41,17 @@ inline constexpr auto en = std::to_array<Text>({
 
     {"options.voice", "Voice and tones"},
     {"options.speech", "Speech"},
-    {"options.speech.help", "Messages, the aim and where the balls lie are spoken. The key W says it again."},
+    {"options.speech.help",
+     "Messages, the aim and where the balls lie are spoken. The key [W] says it again."},
     {"aim.everything", "Say positions"},
     {"options.tones", "Tones for the aim"},
     {"options.tones.help", "A tone rises with the power and moves from left to right with the angle."},
     {"options.hitPlaces", "Hits in stereo"},
     {"options.hitPlaces.help", "A hit is heard on the side of the court where the balls meet."},
-    {"options.textSize", "Text size"},
-    {"options.textSize.help", "How large all texts are."},
 
     {"options.sight", "Seeing"},
+    {"options.textSize", "Text size"},
+    {"options.textSize.help", "How large all texts are."},
     {"options.ballMarks", "Marks on the balls"},
     {"options.ballMarks.help", "Red balls carry rings, blue balls crosses."},
     {"options.ballOutlines", "Outlined balls"},
@@ -62,7 +63,7 @@ inline constexpr auto en = std::to_array<Text>({
 
     {"options.sound", "Sound"},
     {"options.mute", "No sound"},
-    {"options.mute.help", "Turns all sounds off. The key M does the same."},
+    {"options.mute.help", "Turns all sounds off. The key [M] does the same."},
     {"options.crowdVolume", "Volume of the crowd"},
     {"options.crowdVolume.help", "How loud the spectators are."},
     {"options.effectVolume", "Volume of the game"},

@@ -14,7 +14,7 @@ inline constexpr auto es = std::to_array<Text>({
     {"options.asUsual", "Normal"},
     {"options.byKeys", "Con las flechas"},
     {"options.fineAim", "Puntería fina y deshacer"},
-    {"options.fineAim.help", "Con Mayús, las flechas apuntan poco a poco. Retroceso deshace la fuerza y "
+    {"options.fineAim.help", "Con Mayús, las flechas apuntan poco a poco. [Retroceso] deshace la fuerza y "
                              "después la puntería."},
 
     {"options.oneSwitch", "Un solo pulsador"},
@@ -42,17 +42,18 @@ inline constexpr auto es = std::to_array<Text>({
 
     {"options.voice", "Voz y tonos"},
     {"options.speech", "Voz"},
-    {"options.speech.help", "El juego dice los mensajes, la puntería y dónde están las bolas. La tecla W lo "
-                            "repite."},
+    {"options.speech.help",
+     "El juego dice los mensajes, la puntería y dónde están las bolas. La tecla [W] lo "
+     "repite."},
     {"aim.everything", "Decir posiciones"},
     {"options.tones", "Tonos al apuntar"},
     {"options.tones.help", "Un tono sube con la fuerza y va de izquierda a derecha con el ángulo."},
     {"options.hitPlaces", "Choques en estéreo"},
     {"options.hitPlaces.help", "Cada choque se oye en el lado de la pista donde ocurre."},
-    {"options.textSize", "Tamaño del texto"},
-    {"options.textSize.help", "El tamaño de todos los textos."},
 
     {"options.sight", "Visión"},
+    {"options.textSize", "Tamaño del texto"},
+    {"options.textSize.help", "El tamaño de todos los textos."},
     {"options.ballMarks", "Marcas en las bolas"},
     {"options.ballMarks.help", "Las bolas rojas llevan anillos; las azules, cruces."},
     {"options.ballOutlines", "Bolas con contorno"},
@@ -64,7 +65,7 @@ inline constexpr auto es = std::to_array<Text>({
 
     {"options.sound", "Sonido"},
     {"options.mute", "Sin sonido"},
-    {"options.mute.help", "Apaga todos los sonidos, igual que la tecla M."},
+    {"options.mute.help", "Apaga todos los sonidos, igual que la tecla [M]."},
     {"options.crowdVolume", "Volumen del público"},
     {"options.crowdVolume.help", "Cuánto se oye al público."},
     {"options.effectVolume", "Volumen del juego"},

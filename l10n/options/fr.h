@@ -15,7 +15,7 @@ inline constexpr auto fr = std::to_array<Text>({
     {"options.asUsual", "Normal"},
     {"options.byKeys", "Avec les flèches"},
     {"options.fineAim", "Visée fine et annulation"},
-    {"options.fineAim.help", "Avec Maj, les flèches visent par petits pas. Retour arrière annule la force, "
+    {"options.fineAim.help", "Avec Maj, les flèches visent par petits pas. [Retour arrière] annule la force, "
                              "puis la visée."},
 
     {"options.oneSwitch", "Un seul contacteur"},
@@ -45,16 +45,16 @@ inline constexpr auto fr = std::to_array<Text>({
     {"options.voice", "Voix et repères sonores"},
     {"options.speech", "Voix"},
     {"options.speech.help", "Les messages, la visée et la position des balles sont dits à voix haute. La "
-                            "touche W les répète."},
+                            "touche [W] les répète."},
     {"aim.everything", "Dire les positions"},
     {"options.tones", "Repères sonores de visée"},
     {"options.tones.help", "Un son monte avec la force et passe de gauche à droite avec l’angle."},
     {"options.hitPlaces", "Chocs en stéréo"},
     {"options.hitPlaces.help", "Chaque choc s’entend du côté du terrain où il a lieu."},
-    {"options.textSize", "Taille du texte"},
-    {"options.textSize.help", "La taille de tous les textes."},
 
     {"options.sight", "Vision"},
+    {"options.textSize", "Taille du texte"},
+    {"options.textSize.help", "La taille de tous les textes."},
     {"options.ballMarks", "Marques sur les balles"},
     {"options.ballMarks.help", "Des anneaux sur les balles rouges, des croix sur les bleues."},
     {"options.ballOutlines", "Contour des balles"},
@@ -66,7 +66,7 @@ inline constexpr auto fr = std::to_array<Text>({
 
     {"options.sound", "Son"},
     {"options.mute", "Couper le son"},
-    {"options.mute.help", "Coupe tous les sons, comme la touche M."},
+    {"options.mute.help", "Coupe tous les sons, comme la touche [M]."},
     {"options.crowdVolume", "Volume du public"},
     {"options.crowdVolume.help", "À quel point on entend les spectateurs."},
     {"options.effectVolume", "Volume du jeu"},

@@ -14,7 +14,8 @@ inline constexpr auto hi = std::to_array<Text>({
     {"options.asUsual", "सामान्य"},
     {"options.byKeys", "कुंजियों से"},
     {"options.fineAim", "बारीक निशाना, वापस लेना"},
-    {"options.fineAim.help", "शिफ़्ट दबाकर तीरों से निशाना थोड़ा-थोड़ा बदलें। बैकस्पेस से पहले ताकत, फिर निशाना वापस लें।"},
+    {"options.fineAim.help",
+     "शिफ़्ट दबाकर तीरों से निशाना थोड़ा-थोड़ा बदलें। [बैकस्पेस] से पहले ताकत, फिर निशाना वापस लें।"},
 
     {"options.oneSwitch", "एक स्विच"},
     {"options.switchOn", "एक ही स्विच से खेलें"},
@@ -39,16 +40,16 @@ inline constexpr auto hi = std::to_array<Text>({
 
     {"options.voice", "आवाज़ और सुर"},
     {"options.speech", "बोलकर बताएँ"},
-    {"options.speech.help", "संदेश, निशाना और गेंदों की जगह बोलकर बताई जाती है। W कुंजी से फिर सुनें।"},
+    {"options.speech.help", "संदेश, निशाना और गेंदों की जगह बोलकर बताई जाती है। [W] कुंजी से फिर सुनें।"},
     {"aim.everything", "जगहें बताएँ"},
     {"options.tones", "निशाने के सुर"},
     {"options.tones.help", "ताकत बढ़ने पर सुर ऊँचा होता है और कोण के साथ बाएँ से दाएँ जाता है।"},
     {"options.hitPlaces", "टक्कर स्टीरियो में"},
     {"options.hitPlaces.help", "टक्कर की आवाज़ कोर्ट की उसी तरफ़ से आती है जहाँ गेंदें टकराती हैं।"},
-    {"options.textSize", "अक्षरों का आकार"},
-    {"options.textSize.help", "सभी अक्षर कितने बड़े हों।"},
 
     {"options.sight", "देखने में मदद"},
+    {"options.textSize", "अक्षरों का आकार"},
+    {"options.textSize.help", "सभी अक्षर कितने बड़े हों।"},
     {"options.ballMarks", "गेंदों पर चिह्न"},
     {"options.ballMarks.help", "लाल गेंदों पर छल्ले और नीली गेंदों पर क्रॉस होते हैं।"},
     {"options.ballOutlines", "गेंदों के चारों ओर रेखा"},
@@ -60,7 +61,7 @@ inline constexpr auto hi = std::to_array<Text>({
 
     {"options.sound", "ध्वनि"},
     {"options.mute", "आवाज़ बंद"},
-    {"options.mute.help", "सारी आवाज़ें बंद हो जाती हैं। M कुंजी भी यही करती है।"},
+    {"options.mute.help", "सारी आवाज़ें बंद हो जाती हैं। [M] कुंजी भी यही करती है।"},
     {"options.crowdVolume", "दर्शकों की आवाज़"},
     {"options.crowdVolume.help", "दर्शकों की आवाज़ कितनी तेज़ हो।"},
     {"options.effectVolume", "गेम की आवाज़"},

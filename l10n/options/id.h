@@ -16,7 +16,7 @@ inline constexpr auto id = std::to_array<Text>({
     {"options.byKeys", "Dengan tombol"},
     {"options.fineAim", "Bidik halus dan urungkan"},
     {"options.fineAim.help",
-     "Dengan Shift, bidikan bergeser sedikit demi sedikit. Backspace mengurungkan kekuatan, lalu bidikan."},
+     "Dengan Shift, bidikan bergeser sedikit demi sedikit. [Backspace] mengurungkan kekuatan, lalu bidikan."},
 
     {"options.oneSwitch", "Satu sakelar"},
     {"options.switchOn", "Main dengan satu sakelar"},
@@ -43,17 +43,17 @@ inline constexpr auto id = std::to_array<Text>({
 
     {"options.voice", "Suara dan nada"},
     {"options.speech", "Narasi"},
-    {"options.speech.help", "Pesan, bidikan, dan letak bola dibacakan. Tombol W mengulanginya."},
+    {"options.speech.help", "Pesan, bidikan, dan letak bola dibacakan. Tombol [W] mengulanginya."},
     {"aim.everything", "Sebutkan posisi"},
     {"options.tones", "Nada bidikan"},
     {"options.tones.help",
      "Nada makin tinggi mengikuti kekuatan dan bergeser dari kiri ke kanan mengikuti sudut."},
     {"options.hitPlaces", "Benturan dalam stereo"},
     {"options.hitPlaces.help", "Bunyi benturan terdengar dari sisi lapangan tempat bola berbenturan."},
-    {"options.textSize", "Ukuran teks"},
-    {"options.textSize.help", "Seberapa besar semua teks."},
 
     {"options.sight", "Tampilan"},
+    {"options.textSize", "Ukuran teks"},
+    {"options.textSize.help", "Seberapa besar semua teks."},
     {"options.ballMarks", "Tanda pada bola"},
     {"options.ballMarks.help", "Bola merah bertanda cincin, bola biru bertanda silang."},
     {"options.ballOutlines", "Garis tepi bola"},
@@ -65,7 +65,7 @@ inline constexpr auto id = std::to_array<Text>({
 
     {"options.sound", "Bunyi"},
     {"options.mute", "Tanpa bunyi"},
-    {"options.mute.help", "Mematikan semua bunyi. Bisa juga dengan tombol M."},
+    {"options.mute.help", "Mematikan semua bunyi. Bisa juga dengan tombol [M]."},
     {"options.crowdVolume", "Volume penonton"},
     {"options.crowdVolume.help", "Seberapa keras suara penonton."},
     {"options.effectVolume", "Volume permainan"},

@@ -15,7 +15,7 @@ inline constexpr auto it = std::to_array<Text>({
     {"options.asUsual", "Normale"},
     {"options.byKeys", "Con le frecce"},
     {"options.fineAim", "Mira fine e annullamento"},
-    {"options.fineAim.help", "Con Maiusc le frecce mirano a piccoli passi. Backspace annulla la forza, poi "
+    {"options.fineAim.help", "Con Maiusc le frecce mirano a piccoli passi. [Backspace] annulla la forza, poi "
                              "la mira."},
 
     {"options.oneSwitch", "Un solo sensore"},
@@ -43,17 +43,17 @@ inline constexpr auto it = std::to_array<Text>({
 
     {"options.voice", "Voce e toni"},
     {"options.speech", "Voce"},
-    {"options.speech.help", "Il gioco dice i messaggi, la mira e la posizione delle bocce. Il tasto W li "
+    {"options.speech.help", "Il gioco dice i messaggi, la mira e la posizione delle bocce. Il tasto [W] li "
                             "ripete."},
     {"aim.everything", "Di’ le posizioni"},
     {"options.tones", "Toni per la mira"},
     {"options.tones.help", "Un tono sale con la forza e si sposta da sinistra a destra con l’angolo."},
     {"options.hitPlaces", "Urti in stereo"},
     {"options.hitPlaces.help", "Ogni urto si sente dal lato del campo in cui avviene."},
-    {"options.textSize", "Dimensione del testo"},
-    {"options.textSize.help", "La dimensione di tutti i testi."},
 
     {"options.sight", "Vista"},
+    {"options.textSize", "Dimensione del testo"},
+    {"options.textSize.help", "La dimensione di tutti i testi."},
     {"options.ballMarks", "Segni sulle bocce"},
     {"options.ballMarks.help", "Anelli sulle bocce rosse, croci su quelle blu."},
     {"options.ballOutlines", "Bocce con contorno"},
@@ -65,7 +65,7 @@ inline constexpr auto it = std::to_array<Text>({
 
     {"options.sound", "Audio"},
     {"options.mute", "Disattiva l’audio"},
-    {"options.mute.help", "Spegne tutti i suoni, come il tasto M."},
+    {"options.mute.help", "Spegne tutti i suoni, come il tasto [M]."},
     {"options.crowdVolume", "Volume del pubblico"},
     {"options.crowdVolume.help", "Quanto si sente il pubblico."},
     {"options.effectVolume", "Volume del gioco"},

@@ -15,7 +15,7 @@ inline constexpr auto ja = std::to_array<Text>({
     {"options.byKeys", "キーで設定"},
     {"options.fineAim", "微調整と取り消し"},
     {"options.fineAim.help",
-     "Shiftキーを押しながら矢印キーで細かく狙えます。Backspaceキーでパワー、狙いの順に取り消せます。"},
+     "Shiftキーを押しながら矢印キーで細かく狙えます。[Backspace]キーでパワー、狙いの順に取り消せます。"},
 
     {"options.oneSwitch", "ワンスイッチ操作"},
     {"options.switchOn", "スイッチ1つでプレイ"},
@@ -42,16 +42,16 @@ inline constexpr auto ja = std::to_array<Text>({
 
     {"options.voice", "読み上げと合図音"},
     {"options.speech", "読み上げ"},
-    {"options.speech.help", "メッセージ、狙い、ボールの位置を読み上げます。Wキーでもう一度聞けます。"},
+    {"options.speech.help", "メッセージ、狙い、ボールの位置を読み上げます。[W]キーでもう一度聞けます。"},
     {"aim.everything", "位置を読み上げ"},
     {"options.tones", "狙いの合図音"},
     {"options.tones.help", "パワーが上がると音が高くなり、角度に合わせて音が左右に動きます。"},
     {"options.hitPlaces", "衝突音をステレオに"},
     {"options.hitPlaces.help", "ボールがぶつかった側から音が聞こえます。"},
-    {"options.textSize", "文字サイズ"},
-    {"options.textSize.help", "すべての文字の大きさです。"},
 
     {"options.sight", "見やすさ"},
+    {"options.textSize", "文字サイズ"},
+    {"options.textSize.help", "すべての文字の大きさです。"},
     {"options.ballMarks", "ボールの目印"},
     {"options.ballMarks.help", "赤いボールには輪、青いボールには十字が付きます。"},
     {"options.ballOutlines", "ボールの輪郭線"},
@@ -63,7 +63,7 @@ inline constexpr auto ja = std::to_array<Text>({
 
     {"options.sound", "サウンド"},
     {"options.mute", "消音"},
-    {"options.mute.help", "すべての音を消します。Mキーでもできます。"},
+    {"options.mute.help", "すべての音を消します。[M]キーでもできます。"},
     {"options.crowdVolume", "観客の音量"},
     {"options.crowdVolume.help", "観客の声や拍手の大きさです。"},
     {"options.effectVolume", "ゲームの音量"},

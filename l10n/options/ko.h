@@ -15,7 +15,7 @@ inline constexpr auto ko = std::to_array<Text>({
     {"options.byKeys", "키로 설정"},
     {"options.fineAim", "정밀 조준과 되돌리기"},
     {"options.fineAim.help",
-     "Shift 키를 누른 채 방향키로 조금씩 조준합니다. 백스페이스 키는 세기, 조준 순으로 되돌립니다."},
+     "Shift 키를 누른 채 방향키로 조금씩 조준합니다. [백스페이스] 키는 세기, 조준 순으로 되돌립니다."},
 
     {"options.oneSwitch", "스위치 하나로 조작"},
     {"options.switchOn", "스위치 하나로 플레이"},
@@ -40,16 +40,16 @@ inline constexpr auto ko = std::to_array<Text>({
 
     {"options.voice", "음성과 신호음"},
     {"options.speech", "음성 안내"},
-    {"options.speech.help", "메시지, 조준 상태, 공의 위치를 읽어 줍니다. W 키를 누르면 다시 들려줍니다."},
+    {"options.speech.help", "메시지, 조준 상태, 공의 위치를 읽어 줍니다. [W] 키를 누르면 다시 들려줍니다."},
     {"aim.everything", "위치 듣기"},
     {"options.tones", "조준 신호음"},
     {"options.tones.help", "세기가 커지면 음이 높아지고, 각도에 따라 소리가 좌우로 움직입니다."},
     {"options.hitPlaces", "충돌음 스테레오"},
     {"options.hitPlaces.help", "공이 부딪친 쪽에서 소리가 들립니다."},
-    {"options.textSize", "글자 크기"},
-    {"options.textSize.help", "모든 글자의 크기입니다."},
 
     {"options.sight", "시각"},
+    {"options.textSize", "글자 크기"},
+    {"options.textSize.help", "모든 글자의 크기입니다."},
     {"options.ballMarks", "공 무늬"},
     {"options.ballMarks.help", "빨간 공에는 고리, 파란 공에는 십자 무늬가 생깁니다."},
     {"options.ballOutlines", "공 테두리"},
@@ -61,7 +61,7 @@ inline constexpr auto ko = std::to_array<Text>({
 
     {"options.sound", "소리"},
     {"options.mute", "음소거"},
-    {"options.mute.help", "모든 소리를 끕니다. M 키로도 끌 수 있습니다."},
+    {"options.mute.help", "모든 소리를 끕니다. [M] 키로도 끌 수 있습니다."},
     {"options.crowdVolume", "관중 음량"},
     {"options.crowdVolume.help", "관중 소리의 크기입니다."},
     {"options.effectVolume", "게임 음량"},

@@ -15,8 +15,9 @@ inline constexpr auto nl = std::to_array<Text>({
     {"options.asUsual", "Normaal"},
     {"options.byKeys", "Met toetsen"},
     {"options.fineAim", "Fijn richten en stap terug"},
-    {"options.fineAim.help", "Met Shift richten de pijltjestoetsen in kleine stapjes. Backspace zet eerst de "
-                             "kracht terug, dan de hoek."},
+    {"options.fineAim.help",
+     "Met Shift richten de pijltjestoetsen in kleine stapjes. [Backspace] zet eerst de "
+     "kracht terug, dan de hoek."},
 
     {"options.oneSwitch", "Eén schakelaar"},
     {"options.switchOn", "Met één schakelaar spelen"},
@@ -44,16 +45,16 @@ inline constexpr auto nl = std::to_array<Text>({
     {"options.voice", "Stem en tonen"},
     {"options.speech", "Spraak"},
     {"options.speech.help",
-     "Meldingen, de richting en de ligging van de ballen worden voorgelezen. Toets W herhaalt ze."},
+     "Meldingen, de richting en de ligging van de ballen worden voorgelezen. Toets [W] herhaalt ze."},
     {"aim.everything", "Waar alles ligt"},
     {"options.tones", "Tonen bij het richten"},
     {"options.tones.help", "De toon stijgt met de kracht en schuift met de hoek van links naar rechts."},
     {"options.hitPlaces", "Botsingen in stereo"},
     {"options.hitPlaces.help", "Je hoort een botsing aan de kant van het veld waar de ballen elkaar raken."},
-    {"options.textSize", "Tekstgrootte"},
-    {"options.textSize.help", "Hoe groot alle teksten zijn."},
 
     {"options.sight", "Beeld"},
+    {"options.textSize", "Tekstgrootte"},
+    {"options.textSize.help", "Hoe groot alle teksten zijn."},
     {"options.ballMarks", "Tekens op de ballen"},
     {"options.ballMarks.help", "Rode ballen hebben ringen, blauwe ballen kruisen."},
     {"options.ballOutlines", "Rand om de ballen"},
@@ -65,7 +66,7 @@ inline constexpr auto nl = std::to_array<Text>({
 
     {"options.sound", "Geluid"},
     {"options.mute", "Geen geluid"},
-    {"options.mute.help", "Zet al het geluid uit. Toets M doet hetzelfde."},
+    {"options.mute.help", "Zet al het geluid uit. Toets [M] doet hetzelfde."},
     {"options.crowdVolume", "Volume van het publiek"},
     {"options.crowdVolume.help", "Hoe hard je het publiek hoort."},
     {"options.effectVolume", "Volume van het spel"},

@@ -14,7 +14,7 @@ inline constexpr auto pt = std::to_array<Text>({
     {"options.asUsual", "Normal"},
     {"options.byKeys", "Com as setas"},
     {"options.fineAim", "Mira fina e desfazer"},
-    {"options.fineAim.help", "Com Shift, as setas miram em passos pequenos. Backspace desfaz a força e "
+    {"options.fineAim.help", "Com Shift, as setas miram em passos pequenos. [Backspace] desfaz a força e "
                              "depois a mira."},
 
     {"options.oneSwitch", "Um só acionador"},
@@ -43,16 +43,16 @@ inline constexpr auto pt = std::to_array<Text>({
 
     {"options.voice", "Voz e tons"},
     {"options.speech", "Voz"},
-    {"options.speech.help", "O jogo fala as mensagens, a mira e onde estão as bolas. A tecla W repete."},
+    {"options.speech.help", "O jogo fala as mensagens, a mira e onde estão as bolas. A tecla [W] repete."},
     {"aim.everything", "Dizer as posições"},
     {"options.tones", "Tons para a mira"},
     {"options.tones.help", "Um tom sobe com a força e vai da esquerda para a direita com o ângulo."},
     {"options.hitPlaces", "Choques em estéreo"},
     {"options.hitPlaces.help", "Cada choque se ouve do lado do campo de jogo em que acontece."},
-    {"options.textSize", "Tamanho do texto"},
-    {"options.textSize.help", "O tamanho de todos os textos."},
 
     {"options.sight", "Visão"},
+    {"options.textSize", "Tamanho do texto"},
+    {"options.textSize.help", "O tamanho de todos os textos."},
     {"options.ballMarks", "Marcas nas bolas"},
     {"options.ballMarks.help", "As bolas vermelhas têm anéis; as azuis, cruzes."},
     {"options.ballOutlines", "Bolas com contorno"},
@@ -64,7 +64,7 @@ inline constexpr auto pt = std::to_array<Text>({
 
     {"options.sound", "Som"},
     {"options.mute", "Sem som"},
-    {"options.mute.help", "Desliga todos os sons, como a tecla M."},
+    {"options.mute.help", "Desliga todos os sons, como a tecla [M]."},
     {"options.crowdVolume", "Volume do público"},
     {"options.crowdVolume.help", "Quanto se ouve o público."},
     {"options.effectVolume", "Volume do jogo"},

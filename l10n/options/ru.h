@@ -16,7 +16,7 @@ inline constexpr auto ru = std::to_array<Text>({
     {"options.byKeys", "Стрелками"},
     {"options.fineAim", "Точный прицел и шаг назад"},
     {"options.fineAim.help",
-     "С Shift стрелки двигают прицел мелкими шагами. Backspace возвращает к выбору силы, затем прицела."},
+     "С Shift стрелки двигают прицел мелкими шагами. [Backspace] возвращает к выбору силы, затем прицела."},
 
     {"options.oneSwitch", "Одна кнопка"},
     {"options.switchOn", "Играть одной кнопкой"},
@@ -41,16 +41,16 @@ inline constexpr auto ru = std::to_array<Text>({
 
     {"options.voice", "Голос и сигналы"},
     {"options.speech", "Озвучивание"},
-    {"options.speech.help", "Сообщения, прицел и положение мячей звучат вслух. Клавиша W повторяет."},
+    {"options.speech.help", "Сообщения, прицел и положение мячей звучат вслух. Клавиша [W] повторяет."},
     {"aim.everything", "Где что лежит"},
     {"options.tones", "Звуковой прицел"},
     {"options.tones.help", "Тон повышается вместе с силой и смещается слева направо вместе с углом."},
     {"options.hitPlaces", "Удары в стерео"},
     {"options.hitPlaces.help", "Удар слышен с той стороны площадки, где столкнулись мячи."},
-    {"options.textSize", "Размер текста"},
-    {"options.textSize.help", "Величина всех надписей в игре."},
 
     {"options.sight", "Зрение"},
+    {"options.textSize", "Размер текста"},
+    {"options.textSize.help", "Величина всех надписей в игре."},
     {"options.ballMarks", "Метки на мячах"},
     {"options.ballMarks.help", "На красных мячах кольца, на синих — крестики."},
     {"options.ballOutlines", "Контуры мячей"},
@@ -62,7 +62,7 @@ inline constexpr auto ru = std::to_array<Text>({
 
     {"options.sound", "Звук"},
     {"options.mute", "Без звука"},
-    {"options.mute.help", "Отключает все звуки. То же делает клавиша M."},
+    {"options.mute.help", "Отключает все звуки. То же делает клавиша [M]."},
     {"options.crowdVolume", "Громкость трибун"},
     {"options.crowdVolume.help", "Насколько громко шумят зрители."},
     {"options.effectVolume", "Громкость игры"},

@@ -15,7 +15,7 @@ inline constexpr auto th = std::to_array<Text>({
     {"options.byKeys", "กำหนดด้วยปุ่มลูกศร"},
     {"options.fineAim", "เล็งละเอียดและเลิกทำ"},
     {"options.fineAim.help",
-     "กด Shift ค้างไว้แล้วใช้ลูกศรเพื่อเล็งทีละน้อย กด Backspace เพื่อเลิกทำแรงโยน แล้วตามด้วยการเล็ง"},
+     "กด Shift ค้างไว้แล้วใช้ลูกศรเพื่อเล็งทีละน้อย กด [Backspace] เพื่อเลิกทำแรงโยน แล้วตามด้วยการเล็ง"},
 
     {"options.oneSwitch", "สวิตช์เดียว"},
     {"options.switchOn", "เล่นด้วยสวิตช์เดียว"},
@@ -40,16 +40,16 @@ inline constexpr auto th = std::to_array<Text>({
 
     {"options.voice", "เสียงพูดและเสียงสัญญาณ"},
     {"options.speech", "เสียงพูด"},
-    {"options.speech.help", "อ่านข้อความ การเล็ง และตำแหน่งของลูกให้ฟัง กด W เพื่อฟังอีกครั้ง"},
+    {"options.speech.help", "อ่านข้อความ การเล็ง และตำแหน่งของลูกให้ฟัง กด [W] เพื่อฟังอีกครั้ง"},
     {"aim.everything", "บอกตำแหน่ง"},
     {"options.tones", "เสียงสัญญาณช่วยเล็ง"},
     {"options.tones.help", "เสียงสูงขึ้นตามแรงโยน และเลื่อนซ้ายขวาตามมุม"},
     {"options.hitPlaces", "เสียงกระทบแบบสเตอริโอ"},
     {"options.hitPlaces.help", "ได้ยินเสียงกระทบจากฝั่งของสนามที่ลูกชนกัน"},
-    {"options.textSize", "ขนาดตัวอักษร"},
-    {"options.textSize.help", "ขนาดของข้อความทั้งหมด"},
 
     {"options.sight", "การมองเห็น"},
+    {"options.textSize", "ขนาดตัวอักษร"},
+    {"options.textSize.help", "ขนาดของข้อความทั้งหมด"},
     {"options.ballMarks", "เครื่องหมายบนลูกบอล"},
     {"options.ballMarks.help", "ลูกสีแดงมีวงแหวน ลูกสีน้ำเงินมีกากบาท"},
     {"options.ballOutlines", "เส้นขอบลูกบอล"},
@@ -61,7 +61,7 @@ inline constexpr auto th = std::to_array<Text>({
 
     {"options.sound", "เสียง"},
     {"options.mute", "ปิดเสียง"},
-    {"options.mute.help", "ปิดเสียงทั้งหมด กด M ก็ได้เช่นกัน"},
+    {"options.mute.help", "ปิดเสียงทั้งหมด กด [M] ก็ได้เช่นกัน"},
     {"options.crowdVolume", "ระดับเสียงผู้ชม"},
     {"options.crowdVolume.help", "เสียงของผู้ชมดังแค่ไหน"},
     {"options.effectVolume", "ระดับเสียงเกม"},

@@ -15,7 +15,7 @@ inline constexpr auto tr = std::to_array<Text>({
     {"options.byKeys", "Tuşlarla"},
     {"options.fineAim", "İnce nişan ve geri alma"},
     {"options.fineAim.help",
-     "Shift ile ok tuşları küçük adımlarla nişan alır. Backspace önce gücü, sonra nişanı geri alır."},
+     "Shift ile ok tuşları küçük adımlarla nişan alır. [Backspace] önce gücü, sonra nişanı geri alır."},
 
     {"options.oneSwitch", "Tek düğme"},
     {"options.switchOn", "Tek düğmeyle oyna"},
@@ -41,16 +41,16 @@ inline constexpr auto tr = std::to_array<Text>({
 
     {"options.voice", "Anlatım ve tonlar"},
     {"options.speech", "Sesli anlatım"},
-    {"options.speech.help", "Mesajlar, nişan ve topların yeri sesli okunur. W tuşu yeniden okur."},
+    {"options.speech.help", "Mesajlar, nişan ve topların yeri sesli okunur. [W] tuşu yeniden okur."},
     {"aim.everything", "Konumları söyle"},
     {"options.tones", "Nişan tonu"},
     {"options.tones.help", "Güç arttıkça ton tizleşir, açı değiştikçe soldan sağa kayar."},
     {"options.hitPlaces", "Stereo çarpma sesi"},
     {"options.hitPlaces.help", "Çarpma sesi, sahada topların çarpıştığı taraftan duyulur."},
-    {"options.textSize", "Yazı boyutu"},
-    {"options.textSize.help", "Bütün yazıların büyüklüğü."},
 
     {"options.sight", "Görünüm"},
+    {"options.textSize", "Yazı boyutu"},
+    {"options.textSize.help", "Bütün yazıların büyüklüğü."},
     {"options.ballMarks", "Toplarda işaret"},
     {"options.ballMarks.help", "Kırmızı toplarda halka, mavi toplarda çarpı olur."},
     {"options.ballOutlines", "Topların çevresinde çizgi"},
@@ -62,7 +62,7 @@ inline constexpr auto tr = std::to_array<Text>({
 
     {"options.sound", "Ses"},
     {"options.mute", "Sessiz"},
-    {"options.mute.help", "Bütün sesleri kapatır. M tuşu da aynı işi görür."},
+    {"options.mute.help", "Bütün sesleri kapatır. [M] tuşu da aynı işi görür."},
     {"options.crowdVolume", "Seyirci sesi"},
     {"options.crowdVolume.help", "Seyircilerin sesi ne kadar açık olsun."},
     {"options.effectVolume", "Oyun sesi"},

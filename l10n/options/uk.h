@@ -16,7 +16,7 @@ inline constexpr auto uk = std::to_array<Text>({
     {"options.byKeys", "Стрілками"},
     {"options.fineAim", "Точний приціл і крок назад"},
     {"options.fineAim.help",
-     "Із Shift стрілки рухають приціл дрібними кроками. Backspace повертає до вибору сили, потім прицілу."},
+     "Із Shift стрілки рухають приціл дрібними кроками. [Backspace] повертає до вибору сили, потім прицілу."},
 
     {"options.oneSwitch", "Одна кнопка"},
     {"options.switchOn", "Грати однією кнопкою"},
@@ -41,16 +41,17 @@ inline constexpr auto uk = std::to_array<Text>({
 
     {"options.voice", "Голос і сигнали"},
     {"options.speech", "Озвучення"},
-    {"options.speech.help", "Повідомлення, приціл і розташування м’ячів звучать уголос. Клавіша W повторює."},
+    {"options.speech.help",
+     "Повідомлення, приціл і розташування м’ячів звучать уголос. Клавіша [W] повторює."},
     {"aim.everything", "Де що лежить"},
     {"options.tones", "Звуковий приціл"},
     {"options.tones.help", "Тон вищає разом із силою та зміщується зліва направо разом із кутом."},
     {"options.hitPlaces", "Удари у стерео"},
     {"options.hitPlaces.help", "Удар чути з того боку майданчика, де зіткнулися м’ячі."},
-    {"options.textSize", "Розмір тексту"},
-    {"options.textSize.help", "Величина всіх написів у грі."},
 
     {"options.sight", "Зір"},
+    {"options.textSize", "Розмір тексту"},
+    {"options.textSize.help", "Величина всіх написів у грі."},
     {"options.ballMarks", "Позначки на м’ячах"},
     {"options.ballMarks.help", "На червоних м’ячах кільця, на синіх — хрестики."},
     {"options.ballOutlines", "Контури м’ячів"},
@@ -62,7 +63,7 @@ inline constexpr auto uk = std::to_array<Text>({
 
     {"options.sound", "Звук"},
     {"options.mute", "Без звуку"},
-    {"options.mute.help", "Вимикає всі звуки. Те саме робить клавіша M."},
+    {"options.mute.help", "Вимикає всі звуки. Те саме робить клавіша [M]."},
     {"options.crowdVolume", "Гучність трибун"},
     {"options.crowdVolume.help", "Наскільки гучно шумлять глядачі."},
     {"options.effectVolume", "Гучність гри"},

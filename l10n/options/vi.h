@@ -16,7 +16,7 @@ inline constexpr auto vi = std::to_array<Text>({
     {"options.byKeys", "Chỉnh bằng phím"},
     {"options.fineAim", "Ngắm kỹ và lùi bước"},
     {"options.fineAim.help",
-     "Giữ Shift để phím mũi tên ngắm từng chút một. Backspace bỏ lực ném, rồi bỏ góc ngắm."},
+     "Giữ Shift để phím mũi tên ngắm từng chút một. [Backspace] bỏ lực ném, rồi bỏ góc ngắm."},
 
     {"options.oneSwitch", "Một công tắc"},
     {"options.switchOn", "Chơi bằng một công tắc"},
@@ -42,16 +42,16 @@ inline constexpr auto vi = std::to_array<Text>({
 
     {"options.voice", "Giọng đọc và âm báo"},
     {"options.speech", "Giọng đọc"},
-    {"options.speech.help", "Đọc thông báo, góc ngắm và vị trí các quả bóng. Nhấn phím W để nghe lại."},
+    {"options.speech.help", "Đọc thông báo, góc ngắm và vị trí các quả bóng. Nhấn phím [W] để nghe lại."},
     {"aim.everything", "Đọc vị trí"},
     {"options.tones", "Âm báo khi ngắm"},
     {"options.tones.help", "Âm báo cao dần theo lực và chuyển từ trái sang phải theo góc."},
     {"options.hitPlaces", "Va chạm theo âm thanh nổi"},
     {"options.hitPlaces.help", "Tiếng va chạm vang lên từ phía sân nơi hai quả bóng chạm nhau."},
-    {"options.textSize", "Cỡ chữ"},
-    {"options.textSize.help", "Mọi chữ trong trò chơi to hay nhỏ."},
 
     {"options.sight", "Hiển thị"},
+    {"options.textSize", "Cỡ chữ"},
+    {"options.textSize.help", "Mọi chữ trong trò chơi to hay nhỏ."},
     {"options.ballMarks", "Ký hiệu trên bóng"},
     {"options.ballMarks.help", "Bóng đỏ có vòng tròn, bóng xanh có dấu chéo."},
     {"options.ballOutlines", "Viền quanh bóng"},
@@ -63,7 +63,7 @@ inline constexpr auto vi = std::to_array<Text>({
 
     {"options.sound", "Âm thanh"},
     {"options.mute", "Tắt tiếng"},
-    {"options.mute.help", "Tắt mọi âm thanh. Nhấn phím M cũng được."},
+    {"options.mute.help", "Tắt mọi âm thanh. Nhấn phím [M] cũng được."},
     {"options.crowdVolume", "Âm lượng khán giả"},
     {"options.crowdVolume.help", "Tiếng khán giả to hay nhỏ."},
     {"options.effectVolume", "Âm lượng trò chơi"},

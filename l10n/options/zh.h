@@ -14,7 +14,7 @@ inline constexpr auto zh = std::to_array<Text>({
     {"options.asUsual", "正常"},
     {"options.byKeys", "用按键设定"},
     {"options.fineAim", "微调与撤回"},
-    {"options.fineAim.help", "按住Shift键，方向键每次只移动一小步。按退格键先撤回力度，再撤回瞄准。"},
+    {"options.fineAim.help", "按住Shift键，方向键每次只移动一小步。按[退格]键先撤回力度，再撤回瞄准。"},
 
     {"options.oneSwitch", "单开关操作"},
     {"options.switchOn", "用一个开关玩游戏"},
@@ -39,16 +39,16 @@ inline constexpr auto zh = std::to_array<Text>({
 
     {"options.voice", "语音与提示音"},
     {"options.speech", "语音播报"},
-    {"options.speech.help", "播报消息、瞄准情况和各球位置。按W键可重听。"},
+    {"options.speech.help", "播报消息、瞄准情况和各球位置。按[W]键可重听。"},
     {"aim.everything", "播报位置"},
     {"options.tones", "瞄准提示音"},
     {"options.tones.help", "力度越大音调越高，声音随角度左右移动。"},
     {"options.hitPlaces", "碰撞立体声"},
     {"options.hitPlaces.help", "碰撞声从球相碰的那一侧传来。"},
-    {"options.textSize", "文字大小"},
-    {"options.textSize.help", "所有文字的大小。"},
 
     {"options.sight", "视觉"},
+    {"options.textSize", "文字大小"},
+    {"options.textSize.help", "所有文字的大小。"},
     {"options.ballMarks", "球上标记"},
     {"options.ballMarks.help", "红球带圆环，蓝球带十字。"},
     {"options.ballOutlines", "球的轮廓线"},
@@ -60,7 +60,7 @@ inline constexpr auto zh = std::to_array<Text>({
 
     {"options.sound", "声音"},
     {"options.mute", "静音"},
-    {"options.mute.help", "关闭所有声音。按M键也可以。"},
+    {"options.mute.help", "关闭所有声音。按[M]键也可以。"},
     {"options.crowdVolume", "观众音量"},
     {"options.crowdVolume.help", "观众声音的大小。"},
     {"options.effectVolume", "比赛音量"},

@@ -134,6 +134,25 @@ TEST_F(ControlsModelTest, MessagesNameTheKeyInForce) {
     EXPECT_EQ(shown(), "Arrows [←][D] and [↑][↓] to aim. [A] - ok.");
 }
 
+TEST_F(ControlsModelTest, OptionsAreExplainedWithTheKeyInForce) {
+    const OptionsModel& options = *view.menu()->options();
+    const auto help = [&options](Option option) {
+        return options.data(options.index(static_cast<int>(option)), OptionsModel::HelpRole).toString();
+    };
+    EXPECT_EQ(help(Option::mute), "Turns all sounds off. The key [M] does the same.");
+    addKey(GameAction::mute, Qt::Key_Z);
+    rows.removeKey(row(GameAction::mute), 0);
+    EXPECT_EQ(help(Option::mute), "Turns all sounds off. The key [Z] does the same.");
+    rows.removeKey(row(GameAction::mute), 0);
+    EXPECT_EQ(help(Option::mute), "Turns all sounds off. The key [–] does the same.");
+    addKey(GameAction::everything, Qt::Key_X);
+    rows.removeKey(row(GameAction::everything), 0);
+    EXPECT_TRUE(help(Option::speech).endsWith("The key [X] says it again."));
+    addKey(GameAction::takeBack, Qt::Key_C);
+    rows.removeKey(row(GameAction::takeBack), 0);
+    EXPECT_TRUE(help(Option::fineAim).endsWith("[C] takes back the power, then the aim."));
+}
+
 TEST_F(ControlsModelTest, MessagesNameTheButtonOfTheControllerThatWasUsedLast) {
     appearAndHideMenu();
     match.message = "[SPACE] Lock throw power";
