@@ -8,7 +8,7 @@ namespace vorbel::recording {
 
 std::variant<Recording, std::string> recordingInFile(const std::filesystem::path& file) {
     namespace fs = std::filesystem;
-    constexpr std::uintmax_t largest = 64 * 1024 * 1024; // bytes
+    constexpr std::uintmax_t largest = 64UL * 1024 * 1024; // bytes
     std::error_code error;
     if (!fs::exists(file, error)) {
         return "there is no such file";

@@ -7,7 +7,7 @@ namespace vorbel::recording {
 
 namespace {
 
-constexpr std::size_t longestLine = 64 * 1024; // bytes; a result of a thousand ends has fewer
+constexpr std::size_t longestLine = 64UL * 1024; // bytes; a result of a thousand ends has fewer
 
 // Takes the next line, without its break, off the text. None at its end: where the last line lacks its break, whoever
 // wrote it was stopped in it.

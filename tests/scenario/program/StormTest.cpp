@@ -96,7 +96,7 @@ TEST(StormTest, NeitherACrashNorAComplaintInAStormOfInput) {
     QElapsedTimer clock;
     clock.start();
     int gusts = 0;
-    while (clock.elapsed() < seconds * 1000) {
+    while (clock.elapsed() < seconds * 1000LL) {
         QProcess::execute(QStringLiteral("xdotool"), storm.gust());
         ++gusts;
         ASSERT_EQ(qUtf8Printable(game->errors()), std::string()) << "seed " << seed << ", gust " << gusts;
