@@ -181,6 +181,18 @@ class AccessibilityTest(unittest.TestCase):
         game.tab()  # comes after all that the held key did
         self.assertEqual(game.messages, [EN["msg.aimingHint"]])
 
+    def test_a_switch_of_ones_own_acts_once_while_it_is_held(self):
+        for option, value in (("switchOn", 1), ("switchKey", ord("J")), ("switchRest", 0)):
+            self.folder.store(f"boccia_option_{option}", f"integer\n{value}")
+        game = self.start()
+        for button in ("menu.startGame", "menu.play", "menu.play"):
+            game.press("push button", EN[button])
+        wait_until(lambda: EN["msg.initial"] in game.names("alert"), "the match")
+        game.messages.clear()
+        game.hold("j")
+        wait_until(lambda: game.messages, "the aim")
+        self.assertEqual(game.messages, [EN["msg.aimingHint"]])
+
     def go_to(self, name, key="Tab"):
         wait_until(lambda: self.game.tab(key)[1] == name, name)
 
