@@ -29,7 +29,7 @@ bool xrandr(const QStringList& arguments) {
 // The virtual display, divided into two screens for as long as this lives.
 class TwoScreens {
 public:
-    TwoScreens() { areThere_ = divide("left", left, "screen") && divide("right", right, "none"); }
+    TwoScreens() : areThere_(divide("left", left, "screen") && divide("right", right, "none")) {}
     ~TwoScreens() {
         for (const char* name : {"left", "right"}) {
             static_cast<void>(remove(name));
@@ -94,8 +94,8 @@ protected:
         QDir().mkpath(folder);
         QGuiApplication::primaryScreen()
             ->grabWindow(0, 0, 0, 2560, 1600)
-            .save(
-                QStringLiteral("%1/screen-removed-%2%3.png").arg(folder, name, QString::number(GetParam())));
+            .save(QStringLiteral("%1/screen-removed-%2%3.png")
+                      .arg(folder, name, QString::number(GetParam() ? 1 : 0)));
     }
 
     std::optional<TwoScreens> screens;
