@@ -129,8 +129,9 @@ TEST_F(TrackedBallsTest, PlanListsForEachRegionTheBallsThatMatterThere) {
 TEST_F(TrackedBallsTest, ListsOfManyBallsHaveRoom) {
     frame.balls.clear();
     for (std::size_t i = 0; i < mostBalls; ++i) {
+        const std::size_t row = i / 8;
         frame.balls.push_back(
-            ballAt(2, {0.15F * static_cast<float>(i % 8), 0.1F, -4 - 0.15F * static_cast<float>(i / 8)}));
+            ballAt(2, {0.15F * static_cast<float>(i % 8), 0.1F, -4 - 0.15F * static_cast<float>(row)}));
     }
     follow();
     BallPlan plan;

@@ -64,11 +64,12 @@ TEST(ScoringTest, DistancesAreMeasuredInSpace) {
 }
 
 TEST(ScoringTest, AMatchHasFourEndsAndThenExtraOnesUntilItIsDecided) {
-    struct {
+    struct Case {
         int end;
         Points score;
         AfterEnd next;
-    } const cases[] = {
+    };
+    const Case cases[] = {
         {1, {3, 0}, AfterEnd::nextEnd},   {3, {3, 0}, AfterEnd::nextEnd},   {3, {2, 2}, AfterEnd::nextEnd},
         {4, {3, 2}, AfterEnd::matchOver}, {4, {2, 3}, AfterEnd::matchOver}, {4, {3, 3}, AfterEnd::extraEnd},
         {5, {3, 3}, AfterEnd::extraEnd},  {5, {3, 4}, AfterEnd::matchOver}, {6, {0, 0}, AfterEnd::extraEnd},

@@ -16,11 +16,12 @@ Vec3 at(double distance) {
 } // namespace
 
 TEST(TurnOrderTest, TheSideThatIsNotClosestThrows) {
-    struct {
+    struct Case {
         const char* name;
         Position position;
         BallColor next;
-    } const cases[] = {
+    };
+    const Case cases[] = {
         {"red is closer", {jack, {at(0.1)}, {at(0.2)}}, BallColor::blue},
         {"blue is closer", {jack, {at(0.2)}, {at(0.1)}}, BallColor::red},
         {"red is closer by its second ball", {jack, {at(0.5), at(0.1)}, {at(0.2)}}, BallColor::blue},

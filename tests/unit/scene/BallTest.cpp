@@ -5,13 +5,14 @@
 namespace vorbel {
 
 TEST(BallTest, EachKindHasItsNameAndItsColour) {
-    struct {
+    struct Case {
         BallColor kind;
         const char* name;
         Color color;
-    } const cases[] = {{BallColor::red, "red", colors::systemRed},
-                       {BallColor::blue, "blue", colors::systemBlue},
-                       {BallColor::jack, "jack", colors::white}};
+    };
+    const Case cases[] = {{BallColor::red, "red", colors::systemRed},
+                          {BallColor::blue, "blue", colors::systemBlue},
+                          {BallColor::jack, "jack", colors::white}};
     for (const auto& [kind, name, color] : cases) {
         const Node::Ptr ball = makeBall(kind, {1, 2, 3}, PhysicsBody::Type::kinematic);
         EXPECT_EQ(ball->name, name);

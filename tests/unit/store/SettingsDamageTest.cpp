@@ -113,7 +113,7 @@ TEST_F(SettingsDamageTest, AFolderMakesRoom) {
 }
 
 TEST_F(SettingsDamageTest, AFileOfMoreThanSixtyFourMebibytesIsNotReadButKept) {
-    constexpr std::uintmax_t sixtyFourMebibytes = 64 * 1024 * 1024;
+    constexpr std::uintmax_t sixtyFourMebibytes = 64UL * 1024 * 1024;
     const fs::path diary = folder / "boccia_diaryData";
     write(diary, "bytes\n[]");
     SettingsDefaults defaults(folder);
