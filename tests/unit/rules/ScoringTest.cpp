@@ -65,9 +65,9 @@ TEST(ScoringTest, DistancesAreMeasuredInSpace) {
 
 TEST(ScoringTest, AMatchHasFourEndsAndThenExtraOnesUntilItIsDecided) {
     struct Case {
-        int end;
+        int end = 0;
         Points score;
-        AfterEnd next;
+        AfterEnd next{};
     };
     const Case cases[] = {
         {1, {3, 0}, AfterEnd::nextEnd},   {3, {3, 0}, AfterEnd::nextEnd},   {3, {2, 2}, AfterEnd::nextEnd},

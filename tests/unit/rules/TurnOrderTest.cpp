@@ -17,9 +17,9 @@ Vec3 at(double distance) {
 
 TEST(TurnOrderTest, TheSideThatIsNotClosestThrows) {
     struct Case {
-        const char* name;
+        const char* name = "";
         Position position;
-        BallColor next;
+        BallColor next{};
     };
     const Case cases[] = {
         {"red is closer", {jack, {at(0.1)}, {at(0.2)}}, BallColor::blue},

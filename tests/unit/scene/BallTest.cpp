@@ -6,8 +6,8 @@ namespace vorbel {
 
 TEST(BallTest, EachKindHasItsNameAndItsColour) {
     struct Case {
-        BallColor kind;
-        const char* name;
+        BallColor kind{};
+        const char* name = "";
         Color color;
     };
     const Case cases[] = {{BallColor::red, "red", colors::systemRed},
