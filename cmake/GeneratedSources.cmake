@@ -10,12 +10,28 @@ function(vorbel_generated_sources target)
     set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS -w)
 
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
-    set(units 4) # as many as a usual machine has cores
+    set(units 2) # to read the headers seldom: what is compiled is little
     set(unit 0)
     foreach(source IN LISTS compiled_qml)
         set_source_files_properties(${source} PROPERTIES UNITY_GROUP qml${unit})
         set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${target}.dir/Unity/unity_qml${unit}_cxx.cxx
             PROPERTIES COMPILE_OPTIONS -w)
         math(EXPR unit "(${unit} + 1) % ${units}")
+    endforeach()
+    if(CMAKE_UNITY_BUILD) # by groups, then, its own sources too
+        vorbel_unity_groups(${target})
+    endif()
+endfunction()
+
+# vorbel_unity_groups(TARGET): the target's own sources, together in the order in which they are listed.
+function(vorbel_unity_groups target)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources EXCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/")
+    list(FILTER sources INCLUDE REGEX "\\.cpp$")
+    set(place 0)
+    foreach(source IN LISTS sources)
+        math(EXPR unit "${place} / ${CMAKE_UNITY_BUILD_BATCH_SIZE}")
+        set_source_files_properties(${source} PROPERTIES UNITY_GROUP own${unit})
+        math(EXPR place "${place} + 1")
     endforeach()
 endfunction()

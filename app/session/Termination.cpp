@@ -25,7 +25,7 @@ std::array<int, 2>& ends() {
 
 void passOn(int /*signal*/) {
     const int error = errno;
-    [[maybe_unused]] const auto written = write(ends()[1], "", 1);
+    [[maybe_unused]] const auto written = ::write(ends()[1], "", 1);
     errno = error;
 }
 

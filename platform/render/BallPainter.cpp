@@ -9,13 +9,13 @@ namespace vorbel {
 
 namespace {
 
-struct Attribute {
+struct BallAttribute {
     GLint components;
     std::size_t offset;
 };
 
 // In the order of the shaders' locations.
-constexpr Attribute attributes[] = {
+constexpr BallAttribute attributes[] = {
     {4, offsetof(BallQuad, part)},
     {2, offsetof(BallQuad, listed)},
     {4, offsetof(BallQuad, placed)},
@@ -65,7 +65,7 @@ void BallPainter::drawQuads(QOpenGLExtraFunctions& gl, const ShaderProgram& prog
         return;
     }
     for (GLuint location = 0; location < std::size(attributes); ++location) {
-        const Attribute& attribute = attributes[location];
+        const BallAttribute& attribute = attributes[location];
         const auto* offset = reinterpret_cast<const void*>( // the call's way to say a number
             static_cast<std::uintptr_t>(first * sizeof(BallQuad) + attribute.offset));
         gl.glVertexAttribPointer(location, attribute.components, GL_FLOAT, GL_FALSE, sizeof(BallQuad),
