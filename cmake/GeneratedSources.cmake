@@ -18,20 +18,7 @@ function(vorbel_generated_sources target)
             PROPERTIES COMPILE_OPTIONS -w)
         math(EXPR unit "(${unit} + 1) % ${units}")
     endforeach()
-    if(CMAKE_UNITY_BUILD) # by groups, then, its own sources too
-        vorbel_unity_groups(${target})
+    if(CMAKE_UNITY_BUILD) # a target has one mode, and groups have to be named
+        vorbel_group_sources(${target})
     endif()
-endfunction()
-
-# vorbel_unity_groups(TARGET): the target's own sources, together in the order in which they are listed.
-function(vorbel_unity_groups target)
-    get_target_property(sources ${target} SOURCES)
-    list(FILTER sources EXCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/")
-    list(FILTER sources INCLUDE REGEX "\\.cpp$")
-    set(place 0)
-    foreach(source IN LISTS sources)
-        math(EXPR unit "${place} / ${CMAKE_UNITY_BUILD_BATCH_SIZE}")
-        set_source_files_properties(${source} PROPERTIES UNITY_GROUP own${unit})
-        math(EXPR place "${place} + 1")
-    endforeach()
 endfunction()
